@@ -1,0 +1,50 @@
+#include "support/test_support.h"
+
+#include <atomic>
+#include <fstream>
+#include <random>
+#include <sstream>
+#include <stdexcept>
+
+#include <unistd.h>
+
+namespace deckforge { namespace test {
+
+ScratchDir::ScratchDir() {
+    static std::atomic<unsigned> counter{0};
+    std::random_device rd;
+    auto name = "deckforge-test-" + std::to_string(::getpid()) + "-" + std::to_string(counter++) +
+                "-" + std::to_string(rd());
+    path_ = std::filesystem::temp_directory_path() / name;
+    std::filesystem::create_directories(path_);
+}
+
+ScratchDir::~ScratchDir() {
+    std::error_code ec;
+    std::filesystem::permissions(path_, std::filesystem::perms::owner_all,
+                                 std::filesystem::perm_options::add, ec);
+    std::filesystem::remove_all(path_, ec);
+}
+
+std::filesystem::path sourceDir() { return DECKFORGE_SOURCE_DIR; }
+std::filesystem::path binaryDir() { return DECKFORGE_BINARY_DIR; }
+std::filesystem::path realTemplates() { return std::filesystem::path(DECKFORGE_SHARED_DIR) / "real-templates"; }
+std::filesystem::path schemaValidator() {
+    return std::filesystem::path(DECKFORGE_SHARED_DIR) / "ooxml-schemas" / "validate-pptx";
+}
+
+std::string readFile(std::filesystem::path const& p) {
+    std::ifstream in(p, std::ios::binary);
+    if (!in) throw std::runtime_error("cannot read " + p.string());
+    std::ostringstream s;
+    s << in.rdbuf();
+    return s.str();
+}
+
+void writeFile(std::filesystem::path const& p, std::string const& bytes) {
+    std::ofstream out(p, std::ios::binary);
+    if (!out) throw std::runtime_error("cannot write " + p.string());
+    out << bytes;
+}
+
+}}  // namespace deckforge::test

@@ -1,0 +1,31 @@
+// Helpers shared by the unit tests: scratch directories and paths to fixtures.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace deckforge { namespace test {
+
+// A fresh directory under the system temp dir, removed with the object.
+class ScratchDir {
+public:
+    ScratchDir();
+    ~ScratchDir();
+    ScratchDir(ScratchDir const&) = delete;
+    ScratchDir& operator=(ScratchDir const&) = delete;
+    std::filesystem::path const& path() const { return path_; }
+    std::filesystem::path operator/(std::string const& name) const { return path_ / name; }
+
+private:
+    std::filesystem::path path_;
+};
+
+std::filesystem::path sourceDir();      // the repository
+std::filesystem::path binaryDir();      // the build tree
+std::filesystem::path realTemplates();  // ../shared/real-templates
+std::filesystem::path schemaValidator();  // ../shared/ooxml-schemas/validate-pptx
+
+std::string readFile(std::filesystem::path const& p);
+void writeFile(std::filesystem::path const& p, std::string const& bytes);
+
+}}  // namespace deckforge::test
