@@ -18,3 +18,12 @@ void do_legacy_hv_error(foundation::core::except::IMsgIDException const& e) {
     if (reporter()) reporter()(e);
 }
 }}  // namespace matrix::detail
+
+namespace foundation { namespace core { namespace except {
+// Until the catalogue knows texts, the identifier stands for the message.
+std::u16string IMsgIDException::message() const {
+    auto id = identifier();
+    return std::u16string(id.begin(), id.end());
+}
+std::string messageAsUtf8(IMsgIDException const& e) { return e.identifier(); }
+}}}  // namespace foundation::core::except
