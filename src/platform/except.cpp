@@ -1,5 +1,7 @@
 #include "platform/except.h"
 
+#include "platform/i18n.h"
+
 namespace resource_core {
 std::string BaseMsgID::identifier() const {
     return std::string(catalog_) + ":" + id_;
@@ -20,10 +22,6 @@ void do_legacy_hv_error(foundation::core::except::IMsgIDException const& e) {
 }}  // namespace matrix::detail
 
 namespace foundation { namespace core { namespace except {
-// Until the catalogue knows texts, the identifier stands for the message.
-std::u16string IMsgIDException::message() const {
-    auto id = identifier();
-    return std::u16string(id.begin(), id.end());
-}
-std::string messageAsUtf8(IMsgIDException const& e) { return e.identifier(); }
+std::u16string IMsgIDException::message() const { return fl::i18n::MessageCatalog::get_message(msgID()); }
+std::string messageAsUtf8(IMsgIDException const& e) { return fl::i18n::to_utf8(e.message()); }
 }}}  // namespace foundation::core::except

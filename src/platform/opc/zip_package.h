@@ -1,0 +1,67 @@
+// A package in a zip file, over libzip.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/opc/physical_package.h"
+#include "platform/opc/streams.h"
+
+struct zip;
+struct zip_source;
+
+namespace opc {
+namespace zippackage {
+
+// Reading takes the entry list in at construction and refuses archives that
+// are corrupt or hostile (names leaving the package, names equal but for
+// case, sizes above kMaxItemSize). Writing buffers every item in memory and
+// hands all of them to libzip once, at commit.
+class ZipPhysicalPackage : public interfaces::IPhysicalPackage {
+public:
+    // Reads the zip held by the stream.
+    explicit ZipPhysicalPackage(InputStream& in);
+    // Writes a new zip to the stream at commit. A stream can't be updated:
+    // `update` must be false.
+    ZipPhysicalPackage(OutputStream& out, bool update);
+    // With `update` true, reads the existing file and at commit rewrites it
+    // through a temporary file that replaces it; until then the file is
+    // untouched. With false, writes a new file at the path.
+    ZipPhysicalPackage(std::u16string const& path, bool update);
+    ~ZipPhysicalPackage() override;
+    ZipPhysicalPackage(ZipPhysicalPackage const&) = delete;
+    ZipPhysicalPackage& operator=(ZipPhysicalPackage const&) = delete;
+
+    bool isReadable() const override { return readable_; }
+    bool isWritable() const override { return writable_; }
+    std::vector<std::u16string> getItemNames() override { return names_; }
+    std::shared_ptr<std::string const> readItem(std::u16string const& name) override;
+    void writeItem(std::u16string const& name, std::shared_ptr<std::string const> content,
+                   bool compress) override;
+    void commit() override;
+
+private:
+    void indexEntries();
+
+    struct Pending {
+        std::u16string name;
+        std::shared_ptr<std::string const> content;
+        bool compress;
+    };
+
+    zip* archive_ = nullptr;
+    std::string input_;                // the bytes of a zip read from a stream
+    OutputStream* output_ = nullptr;   // where a zip built in memory goes
+    zip_source* memoryZip_ = nullptr;  // the zip built in memory
+    bool readable_ = false;
+    bool writable_ = false;
+    std::vector<std::u16string> names_;
+    std::unordered_map<std::u16string, std::uint64_t> entries_;
+    std::vector<Pending> pending_;
+    std::unordered_map<std::u16string, std::size_t> pendingIndex_;
+};
+
+}  // namespace zippackage
+}  // namespace opc
