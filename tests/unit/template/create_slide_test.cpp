@@ -84,14 +84,14 @@ protected:
             "xmlns:c=\"urn:c\"/></a:graphicData></a:graphic></p:graphicFrame>"
             "<p:graphicFrame><p:nvGraphicFramePr><p:cNvPr id=\"14\" name=\"Grid\"/></p:nvGraphicFramePr>"
             "<a:graphic><a:graphicData><a:tbl/></a:graphicData></a:graphic></p:graphicFrame>";
-        PackageSpec spec = makeTemplate({{u"/ppt/slideMasters/slideMaster1.xml", "Theme", {kLayout}}}, {});
-        spec.part(kLayout,
+        PackageRecipe recipe = makeTemplate({{u"/ppt/slideMasters/slideMaster1.xml", "Theme", {kLayout}}}, {});
+        recipe.part(kLayout,
                   layoutXml(
                       "Title Slide", title + placeholderXml("5", "Content 2", " idx=\"1\"") + date + fixed,
                       " preserve=\"1\" type=\"title\" showMasterSp=\"0\" userDrawn=\"1\"",
                       "<p:clrMapOvr><a:masterClrMapping/></p:clrMapOvr><p:transition/><p:hf sldNum=\"0\"/>"))
             .rel(kLayout, u"rIdM", u"slideMaster", u"/ppt/slideMasters/slideMaster1.xml");
-        spec.write(dir / "t.pptx");
+        recipe.write(dir / "t.pptx");
         loaded = std::make_unique<LoadedModel>(dir / "t.pptx");
         ASSERT_TRUE(loaded->loaded);
         model = loaded->model.get();

@@ -83,17 +83,17 @@ TEST(PresentationModel, LayoutSharedByTwoMastersIsReadOnceAndBelongsToTheMasterI
 TEST(PresentationModel, RelationshipLoopsEndAndUnusablePartsAreSkipped) {
     ScratchDir dir;
     u16string const pres = u"/ppt/presentation.xml";
-    PackageSpec spec;
-    spec.part(
+    PackageRecipe recipe;
+    recipe.part(
         pres,
         "<p:presentation" + kNamespaces +
             "><p:sldMasterIdLst><p:sldMasterId id=\"1\" r:id=\"rSelf\"/><p:sldMasterId id=\"2\" r:id=\"rM\"/>"
             "</p:sldMasterIdLst><p:sldIdLst><p:sldId id=\"256\" "
             "r:id=\"rSelf\"/></p:sldIdLst></p:presentation>",
         kPresentationType);
-    spec.part(kM2, "<p:sldMaster" + kNamespaces + "/>");
-    spec.part(layoutPart(1), layoutXml("Loop", ""));
-    spec.rel(u"", u"rId1", u"officeDocument", pres)
+    recipe.part(kM2, "<p:sldMaster" + kNamespaces + "/>");
+    recipe.part(layoutPart(1), layoutXml("Loop", ""));
+    recipe.rel(u"", u"rId1", u"officeDocument", pres)
         .rel(pres, u"rSelf", u"slideMaster", pres)
         .rel(pres, u"rM", u"slideMaster", kM2)
         .rel(kM2, u"r1", u"slideLayout", kM2)
@@ -101,7 +101,7 @@ TEST(PresentationModel, RelationshipLoopsEndAndUnusablePartsAreSkipped) {
         .rel(kM2, u"r3", u"slideLayout", layoutPart(1))
         .rel(layoutPart(1), u"r1", u"slideMaster", layoutPart(1))
         .rel(layoutPart(1), u"r2", u"slideLayout", layoutPart(1));
-    spec.write(dir / "t.pptx");
+    recipe.write(dir / "t.pptx");
     LoadedModel m(dir / "t.pptx");
     ASSERT_TRUE(m.loaded);
     auto const& masters = *m.model->getMasters();
@@ -117,13 +117,13 @@ TEST(PresentationModel, RelationshipLoopsEndAndUnusablePartsAreSkipped) {
 TEST(PresentationModel, PackagesWithoutAPresentationAreRefused) {
     ScratchDir dir;
     // The main part is there, but of another type.
-    PackageSpec wrongType;
+    PackageRecipe wrongType;
     wrongType.part(u"/ppt/presentation.xml", "<p:presentation" + kNamespaces + "/>", u"application/xml")
         .rel(u"", u"rId1", u"officeDocument", u"/ppt/presentation.xml");
     wrongType.write(dir / "type.pptx");
     EXPECT_FALSE(LoadedModel(dir / "type.pptx").loaded);
 
-    PackageSpec noMain;
+    PackageRecipe noMain;
     noMain.part(u"/ppt/presentation.xml", "<p:presentation" + kNamespaces + "/>", kPresentationType);
     noMain.write(dir / "nomain.pptx");
     EXPECT_FALSE(LoadedModel(dir / "nomain.pptx").loaded);
@@ -150,17 +150,17 @@ TEST(PresentationModel, TemplateSlidesGetRecordsForEveryContentShape) {
         "<p:graphicFrame><p:nvGraphicFramePr><p:cNvPr id=\"12\" name=\"Grid\"/></p:nvGraphicFramePr>"
         "<a:graphic><a:graphicData><a:tbl/></a:graphicData></a:graphic></p:graphicFrame>"
         "</p:spTree></p:cSld></p:sld>";
-    PackageSpec spec =
+    PackageRecipe recipe =
         makeTemplate({{kM1, "Theme", {layoutPart(1)}}}, {{layoutPart(1), "Title", kM1, layoutShapes}},
                      "<p:sldIdLst><p:sldId id=\"300\" r:id=\"rIdS1\"/></p:sldIdLst>");
-    spec.part(u"/ppt/slides/slide1.xml", slide)
+    recipe.part(u"/ppt/slides/slide1.xml", slide)
         .rel(u"/ppt/presentation.xml", u"rIdS1", u"slide", u"/ppt/slides/slide1.xml")
         .rel(u"/ppt/slides/slide1.xml", u"rIdL", u"slideLayout", layoutPart(1));
-    spec.part(u"/ppt/tableStyles.xml",
+    recipe.part(u"/ppt/tableStyles.xml",
               "<a:tblStyleLst xmlns:a=\"urn:a\"><a:tblStyle styleId=\"{A}\" styleName=\"Medium\"/>"
               "<a:tblStyle styleId=\"{B}\" styleName=\"{A}\"/></a:tblStyleLst>")
         .rel(u"/ppt/presentation.xml", u"rIdTS", u"tableStyles", u"/ppt/tableStyles.xml");
-    spec.write(dir / "t.pptx");
+    recipe.write(dir / "t.pptx");
     LoadedModel m(dir / "t.pptx");
     ASSERT_TRUE(m.loaded);
 
@@ -220,13 +220,13 @@ TEST(PresentationModel, TemplateSlidesGetRecordsForEveryContentShape) {
 
 TEST(PartDOMBuilder, ReadsWellFormedPartsAndNamesTheBrokenOne) {
     ScratchDir dir;
-    PackageSpec spec;
-    spec.part(u"/a.xml", "<x:root xmlns:x=\"urn:x\"><x:child/></x:root>")
+    PackageRecipe recipe;
+    recipe.part(u"/a.xml", "<x:root xmlns:x=\"urn:x\"><x:child/></x:root>")
         .part(u"/bad.xml", "<a><b></a>")
         .part(u"/dtd.xml", "<!DOCTYPE a SYSTEM \"http://example.invalid/a.dtd\"><a>&#x41;</a>")
         .rel(u"/a.xml", u"rBad", u"other", u"/bad.xml")
         .rel(u"/a.xml", u"rNone", u"other", u"/none.xml");
-    spec.write(dir / "p.zip");
+    recipe.write(dir / "p.zip");
     auto package = boost::make_shared<OPCPackage>((dir / "p.zip").u16string());
     package->openForRead(false);
     PartDOMBuilder builder(package);

@@ -5,7 +5,7 @@
 namespace deckforge {
 namespace test {
 
-void PackageSpec::write(std::filesystem::path const& file) const {
+void PackageRecipe::write(std::filesystem::path const& file) const {
     ppt::OPCPartWriter writer(file.u16string(), false);
     for (Part const& p : parts) {
         opc::model::Part part = writer.createPart(p.name, p.contentType);
@@ -35,9 +35,9 @@ std::string placeholderXml(std::string const& id, std::string const& name, std::
            "/></p:nvPr></p:nvSpPr><p:spPr/><p:txBody><a:bodyPr/><a:lstStyle/><a:p/></p:txBody></p:sp>";
 }
 
-PackageSpec makeTemplate(std::vector<Master> const& masters, std::vector<Layout> const& layouts,
+PackageRecipe makeTemplate(std::vector<Master> const& masters, std::vector<Layout> const& layouts,
                          std::string const& presentationExtra) {
-    PackageSpec spec;
+    PackageRecipe recipe;
     std::string ids;
     int n = 0;
     for (Master const& m : masters) {
@@ -45,35 +45,35 @@ PackageSpec makeTemplate(std::vector<Master> const& masters, std::vector<Layout>
         u16string const rid = u"rIdM" + num2str(n);
         ids +=
             "<p:sldMasterId id=\"" + std::to_string(2147483647LL + n) + "\" r:id=\"" + toUtf8(rid) + "\"/>";
-        spec.rel(u"/ppt/presentation.xml", rid, u"slideMaster", m.partName);
-        spec.part(m.partName,
+        recipe.rel(u"/ppt/presentation.xml", rid, u"slideMaster", m.partName);
+        recipe.part(m.partName,
                   "<p:sldMaster" + kNamespaces +
                       "><p:cSld><p:spTree><p:nvGrpSpPr><p:cNvPr id=\"1\" name=\"\"/></p:nvGrpSpPr>" +
                       placeholderXml("2", "Title Placeholder 1", " type=\"title\"") +
                       "</p:spTree></p:cSld></p:sldMaster>");
         if (!m.themeName.empty()) {
             u16string const theme = u"/ppt/theme/theme" + num2str(n) + u".xml";
-            spec.part(theme,
+            recipe.part(theme,
                       "<a:theme xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\" name=\"" +
                           m.themeName + "\"/>");
-            spec.rel(m.partName, u"rIdT", u"theme", theme);
+            recipe.rel(m.partName, u"rIdT", u"theme", theme);
         }
         int k = 0;
         for (u16string const& layout : m.layoutPartNames)
-            spec.rel(m.partName, u"rIdL" + num2str(++k), u"slideLayout", layout);
+            recipe.rel(m.partName, u"rIdL" + num2str(++k), u"slideLayout", layout);
     }
     for (Layout const& l : layouts) {
-        spec.part(l.partName, layoutXml(l.name, l.shapes));
-        if (!l.masterPartName.empty()) spec.rel(l.partName, u"rIdM", u"slideMaster", l.masterPartName);
+        recipe.part(l.partName, layoutXml(l.name, l.shapes));
+        if (!l.masterPartName.empty()) recipe.rel(l.partName, u"rIdM", u"slideMaster", l.masterPartName);
     }
-    spec.part(u"/ppt/presentation.xml",
+    recipe.part(u"/ppt/presentation.xml",
               "<p:presentation" + kNamespaces + "><p:sldMasterIdLst>" + ids + "</p:sldMasterIdLst>" +
                   presentationExtra +
                   "<p:sldSz cx=\"9144000\" cy=\"6858000\"/><p:notesSz cx=\"6858000\" "
                   "cy=\"9144000\"/></p:presentation>",
               kPresentationType);
-    spec.rel(u"", u"rId1", u"officeDocument", u"/ppt/presentation.xml");
-    return spec;
+    recipe.rel(u"", u"rId1", u"officeDocument", u"/ppt/presentation.xml");
+    return recipe;
 }
 
 LoadedModel::LoadedModel(std::filesystem::path const& file) {

@@ -31,7 +31,7 @@ inline std::string const kNamespaces =
 
 // A package described part by part; relationship targets are absolute part
 // names, a relationship with an empty source belongs to the package.
-struct PackageSpec {
+struct PackageRecipe {
     struct Part {
         u16string name, contentType;
         std::string xml;
@@ -42,12 +42,12 @@ struct PackageSpec {
     std::vector<Part> parts;
     std::vector<Rel> rels;
 
-    PackageSpec& part(u16string name, std::string xml, u16string contentType = u"application/xml") {
+    PackageRecipe& part(u16string name, std::string xml, u16string contentType = u"application/xml") {
         parts.push_back({std::move(name), std::move(contentType), std::move(xml)});
         return *this;
     }
     // `type` is the last segment of the relationship type, as "slideLayout".
-    PackageSpec& rel(u16string source, u16string id, u16string const& type, u16string target) {
+    PackageRecipe& rel(u16string source, u16string id, u16string const& type, u16string target) {
         rels.push_back({std::move(source), std::move(id), kRelBase + type, std::move(target)});
         return *this;
     }
@@ -67,7 +67,7 @@ struct Master {
     std::string themeName;
     std::vector<u16string> layoutPartNames;
 };
-PackageSpec makeTemplate(std::vector<Master> const& masters, std::vector<Layout> const& layouts,
+PackageRecipe makeTemplate(std::vector<Master> const& masters, std::vector<Layout> const& layouts,
                          std::string const& presentationExtra = "");
 
 std::string layoutXml(std::string const& name, std::string const& shapes,

@@ -56,16 +56,16 @@ protected:
 };
 
 TEST_F(WritePresentationPart, RenumbersFrom256AndRelatesNewSlides) {
-    PackageSpec spec = makeTemplate({{kMaster, "Theme", {kLayout}}}, {{kLayout, "Title", kMaster, ""}},
+    PackageRecipe recipe = makeTemplate({{kMaster, "Theme", {kLayout}}}, {{kLayout, "Title", kMaster, ""}},
                                     "<p:sldIdLst><p:sldId id=\"300\" r:id=\"rIdS1\"/>"
                                     "<p:sldId id=\"301\" r:id=\"rIdS2\"/></p:sldIdLst>");
     for (int n = 1; n <= 2; ++n) {
         u16string const name = u"/ppt/slides/slide" + num2str(n) + u".xml";
-        spec.part(name, "<p:sld" + kNamespaces + "><p:cSld><p:spTree/></p:cSld></p:sld>", kSlideType)
+        recipe.part(name, "<p:sld" + kNamespaces + "><p:cSld><p:spTree/></p:cSld></p:sld>", kSlideType)
             .rel(u"/ppt/presentation.xml", u"rIdS" + num2str(n), u"slide", name)
             .rel(name, u"rIdL", u"slideLayout", kLayout);
     }
-    spec.write(dir / "t.pptx");
+    recipe.write(dir / "t.pptx");
     std::string const before = readFile(dir / "t.pptx");
 
     Rewrite rewrite(dir / "t.pptx", dir / "out.pptx", u"Title", true);
