@@ -374,7 +374,10 @@ boost::shared_ptr<TemplateSlide> PresentationModel::createSlide(
 
     // The slide root takes the layout root's attributes, namespace
     // declarations included, less those that only mean something on a layout.
-    static std::set<u16string> const layoutOnly = {u"preserve", u"type", u"showMasterSp"};
+    // A slide may not carry "userDrawn" or "matchingName": readers that check
+    // the markup refuse the slide, and layouts made in PowerPoint have them.
+    static std::set<u16string> const layoutOnly = {u"preserve", u"type", u"showMasterSp", u"userDrawn",
+                                                   u"matchingName"};
     DOMElement* newRoot = document->createElement(u"p:sld");
     xercesc::DOMNamedNodeMap* attributes = oldRoot->getAttributes();
     for (XMLSize_t i = 0, n = attributes ? attributes->getLength() : 0; i < n; ++i) {

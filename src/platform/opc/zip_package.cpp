@@ -67,7 +67,7 @@ ZipPhysicalPackage::ZipPhysicalPackage(InputStream& in) {
     }
     zip_error_fini(&error);
     readable_ = true;
-    indexEntries();
+    indexOrDiscard();
 }
 
 ZipPhysicalPackage::ZipPhysicalPackage(OutputStream& out, bool update) : output_(&out) {
@@ -102,7 +102,7 @@ ZipPhysicalPackage::ZipPhysicalPackage(std::u16string const& path, bool update) 
         if (!archive_) refuseOpen(libzipText(code));
         readable_ = true;
         writable_ = true;
-        indexEntries();
+        indexOrDiscard();
     } else {
         archive_ = zip_open(native.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &code);
         if (!archive_) throw Exception("cannot create the zip file " + native + ": " + libzipText(code));
@@ -113,6 +113,18 @@ ZipPhysicalPackage::ZipPhysicalPackage(std::u16string const& path, bool update) 
 ZipPhysicalPackage::~ZipPhysicalPackage() {
     if (archive_) zip_discard(archive_);
     if (memoryZip_) zip_source_free(memoryZip_);
+}
+
+// A refused archive throws from the constructor, where the destructor won't
+// run: the archive must be let go here.
+void ZipPhysicalPackage::indexOrDiscard() {
+    try {
+        indexEntries();
+    } catch (...) {
+        zip_discard(archive_);
+        archive_ = nullptr;
+        throw;
+    }
 }
 
 void ZipPhysicalPackage::indexEntries() {

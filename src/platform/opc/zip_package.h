@@ -44,6 +44,7 @@ public:
 
 private:
     void indexEntries();
+    void indexOrDiscard();
 
     struct Pending {
         std::u16string name;

@@ -88,7 +88,7 @@ protected:
         recipe.part(kLayout,
                   layoutXml(
                       "Title Slide", title + placeholderXml("5", "Content 2", " idx=\"1\"") + date + fixed,
-                      " preserve=\"1\" type=\"title\" showMasterSp=\"0\" userDrawn=\"1\"",
+                      " preserve=\"1\" type=\"title\" showMasterSp=\"0\" userDrawn=\"1\" matchingName=\"x\" showMasterPhAnim=\"0\"",
                       "<p:clrMapOvr><a:masterClrMapping/></p:clrMapOvr><p:transition/><p:hf sldNum=\"0\"/>"))
             .rel(kLayout, u"rIdM", u"slideMaster", u"/ppt/slideMasters/slideMaster1.xml");
         recipe.write(dir / "t.pptx");
@@ -113,7 +113,9 @@ TEST_F(CreateSlide, MakesASlideRootWithTheLayoutsAttributesAndOnlyItsCSld) {
     EXPECT_EQ(u16string(root->getTagName()), u"p:sld");
     EXPECT_EQ(attr(root, u"xmlns:p"), u"http://schemas.openxmlformats.org/presentationml/2006/main");
     EXPECT_EQ(attr(root, u"xmlns:a"), u"http://schemas.openxmlformats.org/drawingml/2006/main");
-    EXPECT_EQ(attr(root, u"userDrawn"), u"1");
+    EXPECT_EQ(attr(root, u"showMasterPhAnim"), u"0");
+    EXPECT_FALSE(root->hasAttribute(u"userDrawn"));
+    EXPECT_FALSE(root->hasAttribute(u"matchingName"));
     EXPECT_FALSE(root->hasAttribute(u"preserve"));
     EXPECT_FALSE(root->hasAttribute(u"type"));
     EXPECT_FALSE(root->hasAttribute(u"showMasterSp"));

@@ -1,0 +1,36 @@
+#include "writers/part_dom_writer.h"
+
+#include "platform/opc/opc.h"
+
+namespace deckforge {
+namespace ppt {
+
+PartDOMWriter::PartDOMWriter() = default;
+
+PartDOMWriter::PartDOMWriter(boost::shared_ptr<OPCPackage> const& package)
+    : PartDocumentWriter(package), serializer(opc::model::XercesHelper::createWriter()) {}
+
+PartDOMWriter::~PartDOMWriter() {
+    if (serializer) serializer->release();
+}
+
+void PartDOMWriter::createDocumentPart(u16string const& name, u16string const& contentType,
+                                       xercesc::DOMDocument* document) {
+    opc::model::Part part = createPart(name, contentType);
+    writeTo(part, document);
+}
+
+void PartDOMWriter::writeDocument(u16string const& name, xercesc::DOMDocument* document) {
+    opc::model::Part part = getPart(name);
+    writeTo(part, document);
+}
+
+void PartDOMWriter::writeTo(opc::model::Part& part, xercesc::DOMDocument* document) {
+    if (!serializer) serializer = opc::model::XercesHelper::createWriter();
+    boost::shared_ptr<opc::OutputStream> stream = part.getOutputStream();
+    opc::model::XercesHelper::writeDocumentToStream(serializer, document, *stream);
+    stream->close();
+}
+
+}  // namespace ppt
+}  // namespace deckforge

@@ -1,0 +1,36 @@
+// Building and changing the elements of shapes in a slide's document from a
+// shape's five optional attributes (Name, X, Y, Width, Height). An unset
+// attribute leaves the value to the template or to the system's defaults.
+#pragma once
+
+#include <xercesc/util/XercesDefs.hpp>
+
+#include "common/strings.h"
+
+XERCES_CPP_NAMESPACE_BEGIN
+class DOMElement;
+XERCES_CPP_NAMESPACE_END
+
+namespace deckforge {
+namespace ppt {
+
+class ShapeImpl;
+class TemplateSlide;
+
+// The size written for a shape whose width or height nobody gave. The odd
+// number is deliberate: it marks a size that came from nowhere.
+extern char16_t const* const kDefaultShapeExtent;
+
+// A new p:sp with an empty text body, appended to the slide's p:spTree; it
+// takes the slide's next shape id. Null if the document has no p:spTree.
+xercesc::DOMElement* createTextBoxShape(TemplateSlide& slide, ShapeImpl const& shape);
+
+// Gives a placeholder an a:xfrm of its own when the shape has a position or
+// size; otherwise leaves it to inherit all of its geometry from the layout.
+// Missing values come from the layout's a:off, else "0", and the size is
+// never the layout's: an a:xfrm must hold both a:off and a:ext.
+void applyShapeGeometry(xercesc::DOMElement* shapeElement, TemplateSlide& slide,
+                        xercesc::DOMElement const* layoutElement, ShapeImpl const& shape);
+
+}  // namespace ppt
+}  // namespace deckforge

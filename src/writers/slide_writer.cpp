@@ -1,0 +1,29 @@
+#include "writers/slide_writer.h"
+
+#include "template/presentation_model.h"
+#include "writers/ppt_part_writer.h"
+
+namespace deckforge {
+namespace ppt {
+
+SlideWriter::SlideWriter(SlideImpl const* slide_, PPTWriter* writer, xercesc::DOMNode* parent)
+    : ElementWriter(slide_, writer, parent), slide(slide_) {}
+
+void SlideWriter::write() {
+    boost::shared_ptr<TemplateSlide> const templateSlide = slide->getTemplateSlide();
+    if (!templateSlide) return;
+
+    // Also for an empty name, so that the p:cSld always says it.
+    getModel()->setSlideName(templateSlide, slide->getName());
+    // A template slide keeps its part; a new one gets the next free name.
+    if (templateSlide->partName.empty()) templateSlide->partName = getPartWriter()->addSlide(templateSlide);
+    getWriter()->setCurrentSlide(templateSlide);
+
+    // The shape writers find or create their own elements.
+    writeChildren(nullptr);
+
+    getPartWriter()->writeDocument(templateSlide->partName, templateSlide->document);
+}
+
+}  // namespace ppt
+}  // namespace deckforge
