@@ -4,7 +4,7 @@ BUILD_SAN  ?= build-asan
 JOBS       ?= $(shell nproc)
 GENERATOR  := $(shell command -v ninja >/dev/null 2>&1 && echo "-G Ninja")
 
-.PHONY: all setup configure build test test-native test-sanitize demo clean format
+.PHONY: all setup configure build test test-native test-sanitize demo clean format package
 
 all: build
 
@@ -31,6 +31,10 @@ test-sanitize: setup $(BUILD_SAN)/CMakeCache.txt
 	cd $(BUILD_SAN) && ASAN_OPTIONS=detect_leaks=1 ctest --output-on-failure -j $(JOBS) -L unit
 
 test: test-native test-sanitize
+
+# The Octave package: $(BUILD)/deckforge-<version>.tar.gz, for `pkg install`.
+package: build
+	cmake --build $(BUILD) --target deckforge_octave_package
 
 format:
 	find src tests bench examples -name '*.cpp' -o -name '*.h' | xargs clang-format -i

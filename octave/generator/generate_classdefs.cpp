@@ -1,0 +1,265 @@
+// Writes the classdef files of "deckforge.ppt" from the library's class
+// registry, so that the script classes can't drift from the native ones.
+// Every member is one line into the gateway __deckforge_gw__; overloads are
+// resolved natively.
+//
+//   deckforge_classdefs <output folder +deckforge/+ppt>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <set>
+#include <sstream>
+#include <string>
+
+#include "binding/module.h"
+#include "binding/package.h"
+
+namespace fs = std::filesystem;
+using namespace deckforge::ppt::mi;
+
+namespace {
+
+constexpr char const* kPackage = "deckforge.ppt";
+
+// Octave help: each line as a comment.
+void commentBlock(std::ostream& out, std::string const& text, std::string const& indent) {
+    std::istringstream lines(text);
+    std::string line;
+    while (std::getline(lines, line)) out << indent << "%" << (line.empty() ? "" : " " + line) << "\n";
+}
+
+std::string quote(std::string const& s) {
+    std::string q = "'";
+    for (char c : s) q += (c == '\'') ? std::string("''") : std::string(1, c);
+    return q + "'";
+}
+
+// The nearest superclass of the package, if any; host bases are not classdef
+// classes in Octave, where `handle` stands for them.
+std::string scriptBase(ClassDescription const& cls) {
+    for (auto const& super : cls.superclasses())
+        if (PackageTree::findClass(super)) return super;
+    return {};
+}
+
+std::string signatureLine(std::string const& name, MethodInfo const& m) {
+    std::string s = name + "(";
+    auto inputs = m.callerInputs();
+    for (std::size_t i = 0; i < inputs.size(); ++i) s += (i ? ", " : "") + inputs[i];
+    s += ")";
+    if (m.kind != MethodInfo::Kind::Constructor && m.signature.result != words::Void)
+        s += " -> " + m.signature.result;
+    return s;
+}
+
+void writeClassHelp(std::ostream& out, ClassDescription const& cls) {
+    std::string base = scriptBase(cls);
+    out << "%" << cls.getName() << "  " << (cls.help().empty() ? cls.fullName() : "") << "\n";
+    commentBlock(out, cls.help(), "");
+    out << "%\n%   Class " << cls.fullName();
+    if (!base.empty()) out << ", a subclass of " << base;
+    out << ".\n";
+    if (!cls.constructors().empty()) {
+        out << "%\n%   Constructors:\n";
+        for (auto const& c : cls.constructors())
+            out << "%     " << signatureLine(cls.fullName(), c) << (c.help.empty() ? "" : "   " + c.help)
+                << "\n";
+    } else {
+        out << "%\n%   Objects of this class come from the library; it has no public constructor.\n";
+    }
+    if (!cls.properties().empty()) {
+        out << "%\n%   Properties:\n";
+        for (auto const& p : cls.properties())
+            out << "%     " << p.name << " (" << p.type << (p.isReadOnly() ? ", read only" : "") << ")"
+                << (p.help.empty() ? "" : "  " + p.help) << "\n";
+    }
+    if (!cls.methods().empty()) {
+        out << "%\n%   Methods:\n";
+        for (auto const& m : cls.methods())
+            out << "%     " << (m.kind == MethodInfo::Kind::Static ? "static " : "")
+                << signatureLine(m.name, m) << (m.help.empty() ? "" : "   " + m.help) << "\n";
+    }
+    if (!cls.events().empty()) {
+        out << "%\n%   Events (addlistener(obj, name, @(src, evt) ...)):\n";
+        for (auto const& e : cls.events())
+            out << "%     " << e.name << " with a " << e.dataClass << ": " << e.help << "\n";
+    }
+    out << "%\n%   Generated at build time from the library's class registry.\n\n";
+}
+
+// What only the root classes carry: the native pointer, identity and
+// deletion. Octave has no == on handles and its isequal would recurse into
+// properties, so both compare native objects.
+void writeRootMembers(std::ostream& out) {
+    out << "  properties (Access = private, Hidden)\n"
+           "    NativePtr_ = uint64(0);\n"
+           "  end\n\n";
+    out << "  methods\n"
+           "    function delete(obj)\n"
+           "      __deckforge_gw__('delete', obj);\n"
+           "    end\n"
+           "    function tf = eq(a, b)\n"
+           "      tf = __deckforge_gw__('eq', a, b);\n"
+           "    end\n"
+           "    function tf = ne(a, b)\n"
+           "      tf = ~__deckforge_gw__('eq', a, b);\n"
+           "    end\n"
+           "    function tf = isequal(a, varargin)\n"
+           "      tf = true;\n"
+           "      for k = 1:numel(varargin)\n"
+           "        tf = tf && __deckforge_gw__('eq', a, varargin{k});\n"
+           "      end\n"
+           "    end\n"
+           "    function tf = isvalid(obj)\n"
+           "      tf = __deckforge_gw__('isvalid', obj);\n"
+           "    end\n"
+           "    function disp(obj)\n"
+           "      if ~__deckforge_gw__('isvalid', obj)\n"
+           "        printf('  deleted %s object\\n', class(obj));\n"
+           "        return;\n"
+           "      end\n"
+           "      printf('  %s object with properties:\\n\\n', class(obj));\n"
+           "      names = properties(obj);\n"
+           "      for k = 1:numel(names)\n"
+           "        try\n"
+           "          v = obj.(names{k});\n"
+           "        catch\n"
+           "          v = '<unavailable>';\n"
+           "        end\n"
+           "        if ischar(v)\n"
+           "          text = ['''' v ''''];\n"
+           "        elseif (isnumeric(v) || islogical(v)) && isscalar(v)\n"
+           "          text = num2str(v);\n"
+           "        elseif isobject(v)\n"
+           "          text = ['[' class(v) ']'];\n"
+           "        else\n"
+           "          text = sprintf('[%s %s]', strjoin(arrayfun(@num2str, size(v), 'UniformOutput', false), "
+           "'x'), class(v));\n"
+           "        end\n"
+           "        printf('    %20s: %s\\n', names{k}, text);\n"
+           "      end\n"
+           "    end\n"
+           "  end\n\n";
+}
+
+void writeClass(fs::path const& folder, ClassDescription const& cls) {
+    std::ostringstream out;
+    std::string base = scriptBase(cls);
+    std::string full = quote(cls.fullName());
+    writeClassHelp(out, cls);
+    out << "classdef " << cls.getName() << " < " << (base.empty() ? "handle" : base) << "\n\n";
+
+    std::vector<PropertyInfo const*> readWrite, readOnly;
+    for (auto const& p : cls.properties()) (p.isReadOnly() ? readOnly : readWrite).push_back(&p);
+    if (!readWrite.empty()) {
+        out << "  properties (Dependent)\n";
+        for (auto const* p : readWrite) out << "    " << p->name << "  % " << p->type << "\n";
+        out << "  end\n\n";
+    }
+    if (!readOnly.empty()) {
+        out << "  properties (Dependent, SetAccess = private)\n";
+        for (auto const* p : readOnly) out << "    " << p->name << "  % " << p->type << ", read only\n";
+        out << "  end\n\n";
+    }
+    if (base.empty()) writeRootMembers(out);
+
+    out << "  methods\n";
+    // The constructor: as a base of a subclass it only passes the marker on;
+    // otherwise the gateway builds the native object (or attaches one that
+    // the library made) and stores it in the object.
+    out << "    function obj = " << cls.getName() << "(varargin)\n";
+    if (!base.empty()) out << "      obj = obj@" << base << "(struct('deckforge_base__', true));\n";
+    out << "      __deckforge_gw__('new', obj, " << full << ", varargin{:});\n"
+        << "    end\n";
+    for (auto const* p : readWrite) {
+        out << "    function value = get." << p->name << "(obj)\n"
+            << "      value = __deckforge_gw__('get', obj, " << full << ", " << quote(p->name) << ");\n"
+            << "    end\n"
+            << "    function set." << p->name << "(obj, value)\n"
+            << "      __deckforge_gw__('set', obj, " << full << ", " << quote(p->name) << ", value);\n"
+            << "    end\n";
+    }
+    for (auto const* p : readOnly) {
+        out << "    function value = get." << p->name << "(obj)\n"
+            << "      value = __deckforge_gw__('get', obj, " << full << ", " << quote(p->name) << ");\n"
+            << "    end\n";
+    }
+    std::set<std::string> written;
+    std::vector<MethodInfo const*> statics;
+    for (auto const& m : cls.methods()) {
+        if (m.kind == MethodInfo::Kind::Static) {
+            statics.push_back(&m);
+            continue;
+        }
+        if (!written.insert(m.name).second) continue;
+        out << "    function varargout = " << m.name << "(obj, varargin)\n";
+        for (auto const* o : cls.methodOverloads(m.name))
+            out << "      % " << signatureLine(m.name, *o) << (o->help.empty() ? "" : "   " + o->help)
+                << "\n";
+        out << "      varargout = __deckforge_gw__('call', obj, " << full << ", " << quote(m.name)
+            << ", varargin{:});\n"
+            << "    end\n";
+    }
+    if (!cls.events().empty()) {
+        out << "    function listener = addlistener(obj, eventName, callback)\n"
+            << "      % listener = addlistener(obj, eventName, @(src, evt) ...): callback runs at each "
+               "event\n"
+            << "      % until delete(listener) or listener.Enabled = false.\n"
+            << "      listener = __deckforge_gw__('addlistener', obj, " << full << ", eventName, callback);\n"
+            << "    end\n";
+    }
+    out << "  end\n";
+    if (!statics.empty()) {
+        out << "\n  methods (Static)\n";
+        std::set<std::string> writtenStatic;
+        for (auto const* m : statics) {
+            if (!writtenStatic.insert(m->name).second) continue;
+            out << "    function varargout = " << m->name << "(varargin)\n"
+                << "      % " << signatureLine(m->name, *m) << (m->help.empty() ? "" : "   " + m->help)
+                << "\n"
+                << "      varargout = __deckforge_gw__('static', " << full << ", " << quote(m->name)
+                << ", varargin{:});\n"
+                << "    end\n";
+        }
+        out << "  end\n";
+    }
+    out << "end\n";
+
+    // Unchanged files keep their time stamps, so Octave doesn't reload them.
+    fs::path file = folder / (cls.getName() + ".m");
+    std::string text = out.str();
+    std::ifstream existing(file, std::ios::binary);
+    std::string old((std::istreambuf_iterator<char>(existing)), std::istreambuf_iterator<char>());
+    if (old == text) return;
+    std::ofstream(file, std::ios::binary | std::ios::trunc) << text;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: deckforge_classdefs <folder +deckforge/+ppt>\n";
+        return 2;
+    }
+    try {
+        fs::path folder = argv[1];
+        fs::create_directories(folder);
+        registerPackages();
+        Package* package = PackageTree::getPackage(kPackage);
+        if (!package) throw std::runtime_error("package deckforge.ppt is not registered");
+        std::set<std::string> files;
+        for (auto const& name : package->classNames()) {
+            ClassDescription const* cls = package->findClass(name);
+            writeClass(folder, *cls);
+            files.insert(name + ".m");
+        }
+        // A class that left the registry leaves the folder too.
+        for (auto const& entry : fs::directory_iterator(folder))
+            if (entry.path().extension() == ".m" && !files.count(entry.path().filename().string()))
+                fs::remove(entry.path());
+    } catch (std::exception const& e) {
+        std::cerr << "deckforge_classdefs: " << e.what() << "\n";
+        return 1;
+    }
+    return 0;
+}

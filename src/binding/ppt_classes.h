@@ -1,0 +1,36 @@
+// The classes of "deckforge.ppt", in the order the package adds them. Each
+// has its own source cos_<name>.cpp defining make<Cos class>(). To bind a new
+// class: write its source and add one line here.
+#pragma once
+
+#include <memory>
+
+#include "binding/class_info.h"
+
+#define DECKFORGE_PPT_CLASSES(X) \
+    X(CosNull)                   \
+    X(CosObject)                 \
+    X(CosDebugMessage)           \
+    X(CosErrorMessage)           \
+    X(CosMessage)                \
+    X(CosMessageDispatcher)      \
+    X(CosMessageEventData)       \
+    X(CosMessageFilter)          \
+    X(CosProgressMessage)        \
+    X(CosWarningMessage)         \
+    X(CosNode)                   \
+    X(CosElement)                \
+    X(CosPresentation)           \
+    X(CosSlide)
+
+namespace deckforge {
+namespace ppt {
+namespace mi {
+
+#define DECKFORGE_DECLARE_MAKE(COS) std::unique_ptr<CosPPTObjectClassInfo> make##COS();
+DECKFORGE_PPT_CLASSES(DECKFORGE_DECLARE_MAKE)
+#undef DECKFORGE_DECLARE_MAKE
+
+}  // namespace mi
+}  // namespace ppt
+}  // namespace deckforge

@@ -1,0 +1,19 @@
+# Installs the package tarball with Octave's pkg into a fresh HOME and runs a
+# check script against the installed copy.
+if(NOT EXISTS ${TARBALL})
+  message(FATAL_ERROR "${TARBALL} is missing: build the target deckforge_octave_package (make package)")
+endif()
+file(REMOVE_RECURSE ${SCRATCH})
+file(MAKE_DIRECTORY ${SCRATCH}/home ${SCRATCH}/work)
+get_filename_component(script_dir ${SCRIPT} DIRECTORY)
+get_filename_component(script_name ${SCRIPT} NAME_WE)
+set(ENV{HOME} ${SCRATCH}/home)
+execute_process(
+  COMMAND ${OCTAVE} --no-gui --norc --no-window-system --eval
+    "pkg install -local '${TARBALL}'; pkg load deckforge; addpath('${script_dir}'); ${script_name}; disp('installed package: passed');"
+  WORKING_DIRECTORY ${SCRATCH}/work
+  RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
+message("${out}")
+if(NOT rc EQUAL 0 OR NOT out MATCHES "installed package: passed")
+  message(FATAL_ERROR "installed package check failed (${rc}):\n${err}")
+endif()
