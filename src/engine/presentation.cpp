@@ -3,6 +3,7 @@
 #include <map>
 
 #include "common/file_utils.h"
+#include "engine/named_content.h"
 #include "engine/template_parser.h"
 #include "messages/message.h"
 #include "messages/message_dispatcher.h"
@@ -350,6 +351,23 @@ PPTNodeList PresentationImpl::find(u16string const& name) {
     PPTNodeList result;
     findNodes(name, makeInterface(), result);
     return result;
+}
+
+// find() opens, so none of these needs an open presentation.
+void PresentationImpl::add(u16string const& name, Paragraph const& paragraph) {
+    addParagraphToEach(find(name), paragraph);
+}
+
+void PresentationImpl::replace(u16string const& name, u16string const& text) {
+    replaceTextInEach(find(name), text);
+}
+
+void PresentationImpl::replace(u16string const& name, Paragraph const& paragraph) {
+    replaceParagraphInEach(find(name), paragraph);
+}
+
+void PresentationImpl::replace(u16string const& name, boost::shared_ptr<HvContent> const& content) {
+    replaceContentInEach(find(name), content);
 }
 
 // ---- Adding slides

@@ -15,8 +15,12 @@
 #include "engine/slide.h"
 
 namespace deckforge {
+
+class HvContent;
+
 namespace ppt {
 
+class Paragraph;
 class PartDOMBuilder;
 class PresentationModel;
 class TemplateLayout;
@@ -91,6 +95,12 @@ public:
     // (adding a paragraph, replacing content) go over these hits in order
     // and dispatch on each hit's NodeType.
     PPTNodeList find(u16string const& name);
+    // Over find(name), on all slides (see engine/named_content.h). There is
+    // no add(name, text): two texts name a layout and its master.
+    void add(u16string const& name, Paragraph const& paragraph);
+    void replace(u16string const& name, u16string const& text);
+    void replace(u16string const& name, Paragraph const& paragraph);
+    void replace(u16string const& name, boost::shared_ptr<HvContent> const& content);
     // A new slide from the first layout of that name (or that master's
     // layout of that name), at the end, at `index`, or before `before`.
     // An index at or past the end, or a `before` that is no child, appends.
@@ -171,6 +181,14 @@ public:
     }
 
     PPTNodeList find(u16string const& name) { return presentationImpl()->find(name); }
+    void add(u16string const& name, Paragraph const& paragraph) { presentationImpl()->add(name, paragraph); }
+    void replace(u16string const& name, u16string const& text) { presentationImpl()->replace(name, text); }
+    void replace(u16string const& name, Paragraph const& paragraph) {
+        presentationImpl()->replace(name, paragraph);
+    }
+    void replace(u16string const& name, boost::shared_ptr<HvContent> const& content) {
+        presentationImpl()->replace(name, content);
+    }
     Slide add(u16string const& layoutName) { return presentationImpl()->addSlide(layoutName); }
     Slide add(u16string const& layoutName, u16string const& masterName) {
         return presentationImpl()->addSlide(layoutName, masterName);

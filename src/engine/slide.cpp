@@ -1,5 +1,6 @@
 #include "engine/slide.h"
 
+#include "engine/named_content.h"
 #include "nodes/body_placeholder.h"
 #include "nodes/content_placeholder.h"
 #include "nodes/group.h"
@@ -127,6 +128,31 @@ PPTNodeList SlideImpl::find(u16string const& name) {
     PPTNodeList result;
     findNodes(name, makeInterface(), result);
     return result;
+}
+
+void SlideImpl::add(u16string const& name, u16string const& text) {
+    addTextToEach(find(name), text);
+}
+
+void SlideImpl::add(u16string const& name, Paragraph const& paragraph) {
+    addParagraphToEach(find(name), paragraph);
+}
+
+void SlideImpl::replace(u16string const& name, u16string const& text) {
+    replaceTextInEach(find(name), text);
+}
+
+void SlideImpl::replace(u16string const& name, Paragraph const& paragraph) {
+    replaceParagraphInEach(find(name), paragraph);
+}
+
+void SlideImpl::replace(u16string const& name, boost::shared_ptr<HvContent> const& content) {
+    replaceContentInEach(find(name), content);
+}
+
+PPTNodePtr SlideImpl::putInPlaceOf(PPTNodeImpl* old, PPTNodePtr const& successor) {
+    replaceChild(old ? old->makeInterface() : PPTNodePtr(), successor);
+    return successor;
 }
 
 Slide::Slide() : Element(new SlideImpl()) {}

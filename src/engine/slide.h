@@ -11,8 +11,12 @@
 #include "engine/ppt_node.h"
 
 namespace deckforge {
+
+class HvContent;
+
 namespace ppt {
 
+class Paragraph;
 class Picture;
 class PresentationModel;
 class Slide;
@@ -59,6 +63,19 @@ public:
     // Nodes of that name below this slide; the slide itself is no hit.
     PPTNodeList find(u16string const& name);
 
+    // The operations by name over find(name), as on a presentation (see
+    // engine/named_content.h). A name that finds nothing is no error.
+    void add(u16string const& name, u16string const& text);
+    void add(u16string const& name, Paragraph const& paragraph);
+    void replace(u16string const& name, u16string const& text);
+    void replace(u16string const& name, Paragraph const& paragraph);
+    void replace(u16string const& name, boost::shared_ptr<HvContent> const& content);
+
+    // How a placeholder gives up its place to a picture or a table: `successor`
+    // goes in at the index of `old`, which is left without a parent. Returns
+    // `successor`.
+    PPTNodePtr putInPlaceOf(PPTNodeImpl* old, PPTNodePtr const& successor);
+
 private:
     u16string mMasterName;
     u16string mLayoutName;
@@ -77,6 +94,13 @@ public:
     u16string const& getLayoutName() const { return slideImpl()->getLayoutName(); }
     void setName(u16string const& name) { slideImpl()->setName(name); }
     PPTNodeList find(u16string const& name) { return slideImpl()->find(name); }
+    void add(u16string const& name, u16string const& text) { slideImpl()->add(name, text); }
+    void add(u16string const& name, Paragraph const& paragraph) { slideImpl()->add(name, paragraph); }
+    void replace(u16string const& name, u16string const& text) { slideImpl()->replace(name, text); }
+    void replace(u16string const& name, Paragraph const& paragraph) { slideImpl()->replace(name, paragraph); }
+    void replace(u16string const& name, boost::shared_ptr<HvContent> const& content) {
+        slideImpl()->replace(name, content);
+    }
     // Appends the object and returns a handle over it; failedToAppendChild if
     // it stands in a tree already.
     Picture add(Picture const& picture);

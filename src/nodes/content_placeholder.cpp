@@ -51,6 +51,10 @@ bool ContentPlaceholderImpl::isA(NodeType type) const {
     return type == NodeType::ContentPlaceholder || PicturePlaceholderImpl::isA(type);
 }
 
+Table ContentPlaceholderImpl::replace(Table const& table) {
+    return Table(yieldPlaceTo(table.makeInterface())->getImpl());
+}
+
 ContentPlaceholder::ContentPlaceholder() : PicturePlaceholder(new ContentPlaceholderImpl()) {}
 
 }  // namespace ppt

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "nodes/picture_placeholder.h"
+#include "nodes/table.h"
 
 namespace deckforge {
 namespace ppt {
@@ -22,6 +23,11 @@ public:
     PPTNodePtr clone() const override;
     NodeType getNodeType() const override;
     bool isA(NodeType type) const override;
+
+    // A copy of the table takes this placeholder's place on the slide and
+    // is returned; see yieldPlaceTo.
+    virtual Table replace(Table const& table);
+    using PicturePlaceholderImpl::replace;
 };
 
 class ContentPlaceholder : public PicturePlaceholder {
@@ -32,6 +38,9 @@ public:
     static boost::shared_ptr<ContentPlaceholder> cast(PPTNodePtr const& node) {
         return castNode<ContentPlaceholder>(node);
     }
+
+    Table replace(Table const& table) { return contentPlaceholderImpl()->replace(table); }
+    using PicturePlaceholder::replace;
 
     ContentPlaceholderImpl* contentPlaceholderImpl() const { return getImplAs<ContentPlaceholderImpl>(); }
 };

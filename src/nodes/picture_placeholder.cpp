@@ -51,6 +51,10 @@ bool PicturePlaceholderImpl::isA(NodeType type) const {
     return type == NodeType::PicturePlaceholder || BodyPlaceholderImpl::isA(type);
 }
 
+Picture PicturePlaceholderImpl::replace(Picture const& picture) {
+    return Picture(yieldPlaceTo(picture.makeInterface())->getImpl());
+}
+
 PicturePlaceholder::PicturePlaceholder() : BodyPlaceholder(new PicturePlaceholderImpl()) {}
 
 }  // namespace ppt

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "nodes/body_placeholder.h"
+#include "nodes/picture.h"
 
 namespace deckforge {
 namespace ppt {
@@ -22,6 +23,11 @@ public:
     PPTNodePtr clone() const override;
     NodeType getNodeType() const override;
     bool isA(NodeType type) const override;
+
+    // A copy of the picture takes this placeholder's place on the slide and
+    // is returned; see yieldPlaceTo.
+    virtual Picture replace(Picture const& picture);
+    using BodyPlaceholderImpl::replace;
 };
 
 class PicturePlaceholder : public BodyPlaceholder {
@@ -32,6 +38,9 @@ public:
     static boost::shared_ptr<PicturePlaceholder> cast(PPTNodePtr const& node) {
         return castNode<PicturePlaceholder>(node);
     }
+
+    Picture replace(Picture const& picture) { return picturePlaceholderImpl()->replace(picture); }
+    using BodyPlaceholder::replace;
 
     PicturePlaceholderImpl* picturePlaceholderImpl() const { return getImplAs<PicturePlaceholderImpl>(); }
 };

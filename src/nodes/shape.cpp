@@ -1,5 +1,6 @@
 #include "nodes/shape.h"
 
+#include "platform/msg_ids.h"
 #include "template/template_records.h"
 
 namespace deckforge {
@@ -59,6 +60,10 @@ void ShapeImpl::setName(u16string const& name) {
     PPTNodeImpl::setName(name);
 }
 
+void ShapeImpl::replace(boost::shared_ptr<HvContent> const&) {
+    deckforge::raise<ppt_error::invalidReplaceArg>();
+}
+
 void ShapeImpl::setX(u16string const& value) {
     mX.setValue(Dimension(value));
 }
@@ -85,6 +90,18 @@ void ShapeImpl::takeOverShape(ShapeImpl const& source, bool nameAlways) {
     mHeight = source.mHeight;
     if (nameAlways || source.mNameAttr.isSet()) setName(source.getName());
     appendTemplateUidToId();
+}
+
+void ShapeImpl::takePlaceOf(ShapeImpl const& placeholder) {
+    BaseAttribute<Dimension> const x = mX, y = mY, width = mWidth, height = mHeight;
+    // A copy carries the source's node name; the placeholder's rule decides.
+    PPTNodeImpl::setName(u16string());
+    mReplaced = false;
+    takeOverShape(placeholder, false);
+    if (width.isSet()) mWidth = width;
+    if (height.isSet()) mHeight = height;
+    if (x.isSet()) mX = x;
+    if (y.isSet()) mY = y;
 }
 
 void ShapeImpl::appendTemplateUidToId() {

@@ -10,6 +10,10 @@
 #include "formats/attribute.h"
 
 namespace deckforge {
+
+// The host's typed view of a script value; made and read by the host layer.
+class HvContent;
+
 namespace ppt {
 
 class TemplateShape;
@@ -31,6 +35,11 @@ public:
     // Sets the Name attribute as well as the node's name.
     void setName(u16string const& name) override;
 
+    // Replaces the shape's content by a host value. A plain shape or a group
+    // has no content of its own, so the base refuses (invalidReplaceArg);
+    // boxes, placeholders, pictures and tables override it.
+    virtual void replace(boost::shared_ptr<HvContent> const& content);
+
     BaseAttribute<u16string> const& getNameAttribute() const { return mNameAttr; }
     BaseAttribute<Dimension> const& getX() const { return mX; }
     BaseAttribute<Dimension> const& getY() const { return mY; }
@@ -50,6 +59,12 @@ public:
     // Whether the template's paragraphs are to be dropped at writing.
     bool isReplaced() const { return mReplaced; }
     void setReplaced(bool replaced) { mReplaced = replaced; }
+
+    // For a copy of a picture or table given to a placeholder: the copy takes
+    // the placeholder's template tie, Name and geometry, then its own X, Y,
+    // Width and Height win where they were set. The node name follows the
+    // placeholder's only when its Name attribute is set.
+    void takePlaceOf(ShapeImpl const& placeholder);
 
     u16string const& getTemplateUid() const { return mTemplateUid; }
     boost::shared_ptr<TemplateShape> const& getTemplateShape() const { return mTemplateShape; }
@@ -96,6 +111,7 @@ public:
     void unsetY() { shapeImpl()->unsetY(); }
     void unsetWidth() { shapeImpl()->unsetWidth(); }
     void unsetHeight() { shapeImpl()->unsetHeight(); }
+    void replace(boost::shared_ptr<HvContent> const& content) { shapeImpl()->replace(content); }
 
     ShapeImpl* shapeImpl() const { return getImplAs<ShapeImpl>(); }
 };

@@ -50,6 +50,10 @@ bool TablePlaceholderImpl::isA(NodeType type) const {
     return type == NodeType::TablePlaceholder || BodyPlaceholderImpl::isA(type);
 }
 
+Table TablePlaceholderImpl::replace(Table const& table) {
+    return Table(yieldPlaceTo(table.makeInterface())->getImpl());
+}
+
 TablePlaceholder::TablePlaceholder() : BodyPlaceholder(new TablePlaceholderImpl()) {}
 
 }  // namespace ppt

@@ -1,5 +1,6 @@
 #include "nodes/text_box_placeholder.h"
 
+#include "engine/slide.h"
 #include "platform/msg_ids.h"
 #include "writers/text_box_placeholder_writer.h"
 
@@ -56,6 +57,46 @@ NodeType TextBoxPlaceholderImpl::getNodeType() const {
 
 bool TextBoxPlaceholderImpl::isA(NodeType type) const {
     return type == NodeType::TextBoxPlaceholder || BaseTextBoxImpl::isA(type);
+}
+
+Paragraph TextBoxPlaceholderImpl::add(u16string const& text) {
+    addGuard();
+    return BaseTextBoxImpl::add(text);
+}
+
+Paragraph TextBoxPlaceholderImpl::add(Paragraph const& paragraph) {
+    addGuard();
+    return BaseTextBoxImpl::add(paragraph);
+}
+
+Paragraph TextBoxPlaceholderImpl::replace(u16string const& text) {
+    replaceGuard();
+    return BaseTextBoxImpl::replace(text);
+}
+
+Paragraph TextBoxPlaceholderImpl::replace(Paragraph const& paragraph) {
+    replaceGuard();
+    return BaseTextBoxImpl::replace(paragraph);
+}
+
+PPTNodePtr TextBoxPlaceholderImpl::yieldPlaceTo(PPTNodePtr const& given) {
+    auto* slide = dynamic_cast<SlideImpl*>(replaceGuard());
+    if (!slide || !given) return given;
+    // Only a direct child of the slide has a place there to give up.
+    bool found = false;
+    for (auto const& child : slide->getChildren()) {
+        if (child && child->getImpl() == this) {
+            found = true;
+            break;
+        }
+    }
+    if (!found) return given;
+
+    PPTNodePtr const successor = given->clone();
+    auto* shape = dynamic_cast<ShapeImpl*>(successor->nodeImpl());
+    if (!shape) return given;
+    shape->takePlaceOf(*this);
+    return slide->putInPlaceOf(this, successor);
 }
 
 PPTNodeImpl* TextBoxPlaceholderImpl::replaceGuard() const {

@@ -1,5 +1,8 @@
 #include "writers/shape_markup.h"
 
+#include <algorithm>
+#include <cstdint>
+
 #include <xercesc/dom/DOM.hpp>
 
 #include "common/dimension.h"
@@ -54,7 +57,29 @@ u16string layoutCoordinate(DOMElement const* off, XMLCh const* name) {
     return Dimension(value + u"emus").getEMUValue();
 }
 
+// The highest "id" of a p:cNvPr at or below `element`.
+std::uint32_t highestShapeId(DOMElement const* element) {
+    std::uint32_t highest = 0;
+    for (DOMElement const* child = element->getFirstElementChild(); child;
+         child = child->getNextElementSibling()) {
+        if (xercesc::XMLString::equals(child->getTagName(), xml::kCNvPr)) {
+            u16string const id = child->getAttribute(xml::kId);
+            if (!id.empty()) highest = std::max<std::uint32_t>(highest, str2uint(id));
+        } else {
+            highest = std::max(highest, highestShapeId(child));
+        }
+    }
+    return highest;
+}
+
 }  // namespace
+
+void reserveShapeIds(TemplateSlide& slide) {
+    DOMElement const* tree = PresentationModel::getShapeTree(slide.document);
+    if (!tree) return;
+    std::uint32_t const highest = highestShapeId(tree);
+    if (highest >= slide.nextShapeId) slide.nextShapeId = highest + 1;
+}
 
 DOMElement* createTextBoxShape(TemplateSlide& slide, ShapeImpl const& shape) {
     DOMElement* tree = PresentationModel::getShapeTree(slide.document);

@@ -21,6 +21,15 @@ class TemplateSlide;
 // number is deliberate: it marks a size that came from nowhere.
 extern char16_t const* const kDefaultShapeExtent;
 
+// Makes the slide's next shape id one above the highest p:cNvPr id in its
+// document. The model starts a new slide's counter at its layout's highest
+// placeholder id, which the slide's copy of that placeholder still bears, and
+// a template slide's at 0; either way the first new shape would repeat an id
+// in use, which readers take for a broken file. Called once per slide, before
+// its shapes are written, so a slide costs one walk of its tree however many
+// shapes it gets. The counter never goes down.
+void reserveShapeIds(TemplateSlide& slide);
+
 // A new p:sp with an empty text body, appended to the slide's p:spTree; it
 // takes the slide's next shape id. Null if the document has no p:spTree.
 xercesc::DOMElement* createTextBoxShape(TemplateSlide& slide, ShapeImpl const& shape);

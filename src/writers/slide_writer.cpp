@@ -2,6 +2,7 @@
 
 #include "template/presentation_model.h"
 #include "writers/ppt_part_writer.h"
+#include "writers/shape_markup.h"
 
 namespace deckforge {
 namespace ppt {
@@ -19,7 +20,9 @@ void SlideWriter::write() {
     if (templateSlide->partName.empty()) templateSlide->partName = getPartWriter()->addSlide(templateSlide);
     getWriter()->setCurrentSlide(templateSlide);
 
-    // The shape writers find or create their own elements.
+    // The shape writers find or create their own elements; new ones take ids
+    // above all that the document holds.
+    reserveShapeIds(*templateSlide);
     writeChildren(nullptr);
 
     getPartWriter()->writeDocument(templateSlide->partName, templateSlide->document);
