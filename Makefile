@@ -32,6 +32,13 @@ test-sanitize: setup $(BUILD_SAN)/CMakeCache.txt
 
 test: test-native test-sanitize
 
+# examples/demo.m: a small deck in out/demo.pptx, and PNGs of its slides
+# beside it when LibreOffice is installed. Octave has a `demo` of its own,
+# which the example shadows on purpose.
+demo: build
+	octave --no-gui --norc --no-window-system --eval \
+	  "warning('off', 'Octave:shadowed-function'); addpath('$(abspath $(BUILD))', '$(CURDIR)/examples'); demo;"
+
 # The Octave package: $(BUILD)/deckforge-<version>.tar.gz, for `pkg install`.
 package: build
 	cmake --build $(BUILD) --target deckforge_octave_package

@@ -21,7 +21,21 @@
     X(CosNode)                   \
     X(CosElement)                \
     X(CosPresentation)           \
-    X(CosSlide)
+    X(CosSlide)                  \
+    X(CosShape)                  \
+    X(CosBaseTextBox)            \
+    X(CosTextBox)                \
+    X(CosTextBoxPlaceholder)     \
+    X(CosBodyPlaceholder)        \
+    X(CosPicturePlaceholder)     \
+    X(CosTablePlaceholder)       \
+    X(CosContentPlaceholder)     \
+    X(CosGroup)                  \
+    X(CosPicture)                \
+    X(CosTable)                  \
+    X(CosText)                   \
+    X(CosExternalLink)           \
+    X(CosParagraph)
 
 namespace deckforge {
 namespace ppt {

@@ -1,0 +1,57 @@
+// Script values as the content of text boxes: the "any" forms of a box's
+// add and replace, and replace by name on a presentation or a slide.
+//
+// A cell array is a list, one paragraph per element in column order; a
+// nested cell array is the next outline level:
+//
+//   box.replace({'a', {'a1', 'a2'}, 'b'})   % a, a1 and a2 at level 2, b
+//
+// Text and numbers make a paragraph of one run, a Paragraph object is taken
+// itself (a copy if it stands in a tree already), and anything else without
+// text of its own (a logical, [], a struct, a number array) a blank line.
+#pragma once
+
+#include "binding/class_info.h"
+#include "binding/value.h"
+#include "engine/ppt_node.h"
+#include "nodes/list_item.h"
+
+namespace deckforge {
+namespace ppt {
+
+class BaseTextBox;
+
+namespace mi {
+
+// The list of a cell array. A character matrix raises
+// MustBeStringScalarOrCharacterVector and a deleted object InvalidHandle,
+// rather than turning silently into blank lines.
+ListItems toListItems(Value const& cell);
+
+// "add" with "any": an empty value does nothing, a cell array appends its
+// list, any other value the library can read changes nothing. A value it
+// can't read (a function handle, a foreign object) raises invalidAddArg.
+void addValue(BaseTextBox const& box, Value const& value);
+
+// "replace" with "any": a non-empty cell array replaces the paragraphs by
+// its list; anything else raises invalidReplaceArg. A content placeholder
+// takes an empty value as "nothing to do". Placeholders that other objects
+// may replace check first that they still stand on a slide.
+void replaceValue(BaseTextBox const& box, Value const& value);
+
+// Replace by name: each box and placeholder among the hits as replaceValue;
+// a picture or a table among them can't take a list (invalidReplaceArg);
+// other hits are passed over.
+void replaceValueInEach(PPTNodeList const& hits, Value const& value);
+
+// The overloads of "add" and "replace" of a box class. A class that
+// declares "add" or "replace" hides its bases' overloads, so each box class
+// with members of its own declares them all, in this order: the text forms
+// (string, Paragraph; each returns the Paragraph), then its object forms,
+// then the "any" forms, which would otherwise catch every argument.
+void addBoxTextMethods(ClassDescription& cls);
+void addBoxValueMethods(ClassDescription& cls);
+
+}  // namespace mi
+}  // namespace ppt
+}  // namespace deckforge

@@ -1,0 +1,27 @@
+#include "binding/accessors.h"
+#include "binding/box_content.h"
+#include "binding/ppt_classes.h"
+#include "nodes/table_placeholder.h"
+
+namespace deckforge {
+namespace ppt {
+namespace mi {
+
+class CosTablePlaceholder : public CosPPTObjectClassInfo {
+public:
+    CosTablePlaceholder() : CosPPTObjectClassInfo("TablePlaceholder") {}
+    void initializeClass(ClassDescription& cls) const override {
+        cls.setHelp(
+            "A placeholder of a slide's layout for a table; until one takes its place it takes text.");
+        cls.addSuperclass("deckforge.ppt.BodyPlaceholder");
+        addBoxTextMethods(cls);
+    }
+};
+
+std::unique_ptr<CosPPTObjectClassInfo> makeCosTablePlaceholder() {
+    return std::make_unique<CosTablePlaceholder>();
+}
+
+}  // namespace mi
+}  // namespace ppt
+}  // namespace deckforge

@@ -1,0 +1,26 @@
+#include "binding/accessors.h"
+#include "binding/ppt_classes.h"
+#include "nodes/text_box_placeholder.h"
+
+namespace deckforge {
+namespace ppt {
+namespace mi {
+
+class CosTextBoxPlaceholder : public CosPPTObjectClassInfo {
+public:
+    CosTextBoxPlaceholder() : CosPPTObjectClassInfo("TextBoxPlaceholder") {}
+    void initializeClass(ClassDescription& cls) const override {
+        cls.setHelp(
+            "A placeholder of a slide's layout that takes text. The slide makes it; find it by name.\n"
+            "  s = p.add('Title Slide'); s.find('Title'){1}.replace('Quarterly review');");
+        cls.addSuperclass("deckforge.ppt.BaseTextBox");
+    }
+};
+
+std::unique_ptr<CosPPTObjectClassInfo> makeCosTextBoxPlaceholder() {
+    return std::make_unique<CosTextBoxPlaceholder>();
+}
+
+}  // namespace mi
+}  // namespace ppt
+}  // namespace deckforge
