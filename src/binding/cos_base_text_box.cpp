@@ -1,6 +1,7 @@
 #include "binding/accessors.h"
 #include "binding/box_content.h"
 #include "binding/ppt_classes.h"
+#include "binding/style_properties.h"
 #include "nodes/base_text_box.h"
 
 namespace deckforge {
@@ -20,6 +21,8 @@ public:
         cls.addSuperclass("deckforge.ppt.Shape");
         cls.addConstructor(
             {}, [](Call&) { return BaseTextBox(); }, "BaseTextBox()");
+        addCharacterStyleProperties<BaseTextBox>(cls);
+        addBoxStyleProperties<BaseTextBox>(cls);
         addBoxTextMethods(cls);
         addBoxValueMethods(cls);
     }

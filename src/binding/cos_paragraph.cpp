@@ -3,6 +3,7 @@
 
 #include "binding/accessors.h"
 #include "binding/ppt_classes.h"
+#include "binding/style_properties.h"
 #include "nodes/paragraph.h"
 #include "platform/msg_ids.h"
 
@@ -67,6 +68,8 @@ public:
             {kText, words::UInt32}, [](Call& c) { return Paragraph(c.object<Text>(0), c.uint32(1)); },
             "Paragraph(run, level)");
 
+        addCharacterStyleProperties<Paragraph>(cls);
+        addHAlignProperty<Paragraph>(cls);
         cls.addProperty("Level", "uint32 or empty", getter(&Paragraph::getLevel), setLevel,
                         "The outline level, 1 the outermost; [] for none.");
 

@@ -1,5 +1,6 @@
 #include "binding/accessors.h"
 #include "binding/ppt_classes.h"
+#include "binding/style_properties.h"
 #include "nodes/text.h"
 #include "platform/msg_ids.h"
 
@@ -45,6 +46,7 @@ public:
             {words::Double}, [](Call& c) { return Text(c.number(0)); }, "Text(number)");
         cls.addProperty("Content", "host array", getContent, setContent,
                         "The text, or a number; [] sets the empty text, a logical the number 1 or 0.");
+        addCharacterStyleProperties<Text>(cls);
     }
 };
 

@@ -10,6 +10,23 @@
 #define DECKFORGE_PPT_CLASSES(X) \
     X(CosNull)                   \
     X(CosObject)                 \
+    X(CosFormat)                 \
+    X(CosBaseDimension)          \
+    X(CosColor)                  \
+    X(CosBackgroundColor)        \
+    X(CosBold)                   \
+    X(CosColWidth)               \
+    X(CosFontColor)              \
+    X(CosFontFamily)             \
+    X(CosFontSize)               \
+    X(CosHAlign)                 \
+    X(CosItalic)                 \
+    X(CosSubscript)              \
+    X(CosSuperscript)            \
+    X(CosStrike)                 \
+    X(CosTableStyleOptions)      \
+    X(CosUnderline)              \
+    X(CosVAlign)                 \
     X(CosDebugMessage)           \
     X(CosErrorMessage)           \
     X(CosMessage)                \

@@ -2,6 +2,7 @@
 // placeholders. Its children are its paragraphs, in order.
 #pragma once
 
+#include "formats/element_style.h"
 #include "nodes/list_item.h"
 #include "nodes/paragraph.h"
 #include "nodes/shape.h"
@@ -52,7 +53,7 @@ protected:
     void appendListItems(BaseAttribute<unsigned int> const& level, ListItems const& items);
 };
 
-class BaseTextBox : public Shape {
+class BaseTextBox : public Shape, public CharacterStyle<BaseTextBox>, public BoxStyle<BaseTextBox> {
 public:
     BaseTextBox();
     explicit BaseTextBox(u16string const& name);

@@ -5,6 +5,7 @@
 
 #include "engine/ppt_node.h"
 #include "formats/attribute.h"
+#include "formats/element_style.h"
 #include "nodes/external_link.h"
 #include "nodes/text.h"
 
@@ -37,7 +38,9 @@ private:
 // The constructors that take a Text adopt that very object, not a copy; one
 // that already has a parent raises failedToAppendChild and no paragraph is
 // made. Paragraph(3u) has a level and no run, Paragraph(3.0) one run.
-class Paragraph : public Element {
+class Paragraph : public Element,
+                  public CharacterStyle<Paragraph>,
+                  public ParagraphStyle<Paragraph> {
 public:
     Paragraph();
     explicit Paragraph(u16string const& text);

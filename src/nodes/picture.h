@@ -9,12 +9,18 @@
 namespace deckforge {
 namespace ppt {
 
+class Picture;
+
 class PictureImpl : public ShapeImpl {
 public:
     PictureImpl();
     explicit PictureImpl(u16string const& name);
     PictureImpl(u16string const& name, u16string const& templateUid);
     PictureImpl(PictureImpl const& other);
+    // The picture that takes `replaced`'s place with the image of `given`:
+    // identity, Name and geometry of `replaced`, then whatever of Width,
+    // Height, X and Y `given` sets. The file isn't looked at again.
+    PictureImpl(ShapeImpl const& replaced, PictureImpl const& given);
     ~PictureImpl() override;
 
     char const* getFullyQualifiedHobjTypeName() const override;
@@ -25,6 +31,20 @@ public:
 
     // As the caller wrote it; empty for a picture from the template.
     u16string const& getPath() const { return mPath; }
+    // Measures the image and stores the path; Width and Height become the
+    // image's size in pixels, overwriting what was set. An error of the
+    // measuring (the host's, or failedToDetermineFilename) leaves the
+    // picture as it was.
+    void setPath(u16string const& path);
+
+    // A copy of `picture`'s image takes this picture's place among the
+    // slide's children and is returned. A picture in a group, or not among
+    // its slide's children, changes nothing: the argument comes back.
+    virtual Picture replace(Picture const& picture);
+    using ShapeImpl::replace;
+    // The parent, or pictureCannotBeReplaced: a free picture, or one that
+    // was replaced already.
+    virtual PPTNodeImpl* replaceGuard() const;
 
 protected:
     u16string mPath;
@@ -32,12 +52,18 @@ protected:
 
 class Picture : public Shape {
 public:
+    // A picture without an image; a layout's pictures are of this kind.
     Picture();
+    // Sized to the image in pixels; see PictureImpl::setPath.
+    explicit Picture(u16string const& path);
     explicit Picture(PPTObjectImpl* impl) : Shape(impl) {}
 
     static boost::shared_ptr<Picture> cast(PPTNodePtr const& node) { return castNode<Picture>(node); }
 
     u16string const& getPath() const { return pictureImpl()->getPath(); }
+    void setPath(u16string const& path) { pictureImpl()->setPath(path); }
+    Picture replace(Picture const& picture) { return pictureImpl()->replace(picture); }
+    using Shape::replace;
 
     PictureImpl* pictureImpl() const { return getImplAs<PictureImpl>(); }
 };

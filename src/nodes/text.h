@@ -4,6 +4,7 @@
 #pragma once
 
 #include "engine/ppt_node.h"
+#include "formats/element_style.h"
 
 namespace deckforge {
 namespace ppt {
@@ -38,7 +39,7 @@ private:
     bool mIsNum = false;
 };
 
-class Text : public Element {
+class Text : public Element, public CharacterStyle<Text> {
 public:
     Text();
     explicit Text(u16string const& text);

@@ -72,6 +72,29 @@ xercesc::DOMElement* BaseTextBoxWriter::replaceShapeProperty(XMLCh const* name) 
     return element;
 }
 
+xercesc::DOMElement* BaseTextBoxWriter::replaceShapeFill(XMLCh const* name) {
+    static xml::Name const fills[] = {xml::Name(u"a:noFill"),   xml::Name(u"a:solidFill"),
+                                      xml::Name(u"a:gradFill"), xml::Name(u"a:blipFill"),
+                                      xml::Name(u"a:pattFill"), xml::Name(u"a:grpFill")};
+    static xml::Name const leading[] = {xml::kXfrm, xml::Name(u"a:custGeom"), xml::kPrstGeom};
+    auto isOneOf = [](XMLCh const* tag, auto const& names) {
+        for (auto const& n : names)
+            if (xercesc::XMLString::equals(tag, n)) return true;
+        return false;
+    };
+    xercesc::DOMElement* properties = ensureShapeProperties();
+    if (!properties) return nullptr;
+    xercesc::DOMElement* element = createElement(name);
+    xercesc::DOMElement* before = properties->getFirstElementChild();
+    while (before && isOneOf(before->getTagName(), leading)) before = before->getNextElementSibling();
+    properties->insertBefore(element, before);
+    std::vector<xercesc::DOMElement*> doomed;
+    for (auto* child = properties->getFirstElementChild(); child; child = child->getNextElementSibling())
+        if (child != element && isOneOf(child->getTagName(), fills)) doomed.push_back(child);
+    for (auto* child : doomed) properties->removeChild(child);
+    return element;
+}
+
 xercesc::DOMElement* BaseTextBoxWriter::ensureBodyProperties() {
     if (!bodyProperties) bodyProperties = createElement(xml::kBodyPr);
     return bodyProperties;

@@ -26,6 +26,11 @@ public:
     // A new element of that name in the shape properties, in place of the
     // first one of that name or else at the end.
     xercesc::DOMElement* replaceShapeProperty(XMLCh const* name);
+    // A new fill element of that name (a:solidFill, a:noFill, ...) in the
+    // shape properties, in place of any fill they have, so that the shape
+    // keeps a single fill, placed after the transform and geometry and before
+    // the outline and effects as the schema orders them.
+    xercesc::DOMElement* replaceShapeFill(XMLCh const* name);
     xercesc::DOMElement* ensureBodyProperties();
     void setBodyAttribute(XMLCh const* name, bool value);
     void setBodyAttribute(XMLCh const* name, XMLCh const* value);

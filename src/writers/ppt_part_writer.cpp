@@ -54,10 +54,14 @@ u16string PPTPartWriter::addImage(u16string const& slidePartName, u16string cons
         return u16string();  // an unreadable image gives no part and no relationship
     }
     if (!input || !*input) return u16string();
+    // A file of no known image type would make a part without a content
+    // type, which the package refuses at close; it is treated as unreadable.
+    u16string const contentType = FileUtils::getContentType(imagePath);
+    if (contentType.empty()) return u16string();
 
     getPart(slidePartName);  // the slide's part must exist by now
     u16string const name = newMediaName(FileUtils::getFileNameExtension(imagePath));
-    opc::model::Part media = createPart(name, FileUtils::getContentType(imagePath));
+    opc::model::Part media = createPart(name, contentType);
     boost::shared_ptr<opc::OutputStream> output = media.getOutputStream();
     char buffer[1024];
     while (*input) {

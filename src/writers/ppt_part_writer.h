@@ -24,8 +24,8 @@ public:
     u16string addSlide(boost::shared_ptr<TemplateSlide> const& slide);
     // Copies the image into a new media part and relates the slide to it; a
     // new part for every call. Empty text, and no part, if the file can't be
-    // read. The slide part must exist: the package library's error passes
-    // through otherwise.
+    // read or its extension names no known media type. The slide part must
+    // exist: the package library's error passes through otherwise.
     u16string addImage(u16string const& slidePartName, u16string const& imagePath);
     // An external hyperlink relationship of the slide; empty text for an empty
     // target or a slide part that doesn't exist.

@@ -1,6 +1,7 @@
 #include "writers/shape_markup.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 
 #include <xercesc/dom/DOM.hpp>
@@ -70,6 +71,140 @@ std::uint32_t highestShapeId(DOMElement const* element) {
         }
     }
     return highest;
+}
+
+// EMU for a pixel of an image that has no size of its own on the slide.
+double const kEmuPerPixel = 9525.0;
+
+// Truncated toward zero into 32 bits, as the markup's coordinates are;
+// clamped rather than wrapped, so no size turns negative by overflow.
+u16string emuText(double value) {
+    if (std::isnan(value)) value = 0.0;
+    value = std::clamp(value, -2147483648.0, 2147483647.0);
+    return num2str(static_cast<int>(value));
+}
+
+// The r prefix must be declared where r:embed is used; slide documents
+// declare it on the root as a rule, but a template may have had no use for it.
+void declareRelationshipPrefix(DOMDocument* document) {
+    DOMElement* root = document->getDocumentElement();
+    if (root && !root->hasAttribute(xml::kXmlnsR))
+        root->setAttribute(xml::kXmlnsR,
+                           u"http://schemas.openxmlformats.org/officeDocument/2006/relationships");
+}
+
+DOMElement* newNonVisualPictureProperties(DOMDocument* document) {
+    DOMElement* cNvPicPr = document->createElement(xml::kCNvPicPr);
+    DOMElement* locks = appendNew(cNvPicPr, xml::kPicLocks);
+    locks->setAttribute(xml::kNoGrp, u"1");
+    locks->setAttribute(xml::kNoChangeAspect, u"1");
+    return cNvPicPr;
+}
+
+// A p:pic with an empty p:nvPicPr and its p:blipFill; the caller fills the
+// non-visual properties and appends the p:spPr.
+DOMElement* pictureSkeleton(DOMDocument* document, u16string const& relationshipId, DOMElement*& nvPicPr) {
+    DOMElement* pic = document->createElement(xml::kPic);
+    nvPicPr = appendNew(pic, xml::kNvPicPr);
+    DOMElement* blipFill = appendNew(pic, xml::kBlipFill);
+    DOMElement* blip = appendNew(blipFill, xml::kBlip);
+    if (!relationshipId.empty()) {
+        declareRelationshipPrefix(document);
+        blip->setAttribute(xml::kEmbed, relationshipId.c_str());
+    }
+    appendNew(appendNew(blipFill, xml::kStretch), xml::kFillRect);
+    return pic;
+}
+
+// A p:cNvPr with the slide's next shape id and the shape's Name, or a new
+// uuid when it has none.
+DOMElement* newShapeName(TemplateSlide& slide, ShapeImpl const& shape) {
+    DOMElement* cNvPr = slide.document->createElement(xml::kCNvPr);
+    cNvPr->setAttribute(xml::kId, num2str(static_cast<unsigned int>(slide.nextShapeId++)).c_str());
+    auto const& name = shape.getNameAttribute();
+    cNvPr->setAttribute(xml::kName, (name.isSet() ? name.getValue() : uuid_gen()).c_str());
+    return cNvPr;
+}
+
+// Fills `nvPicPr` from the old shape's non-visual properties: its p:cNvPr,
+// the picture's own p:cNvPicPr, its p:nvPr, in the order the schema wants.
+// Moving them keeps id, name and p:ph. What the old shape lacks is made new,
+// since a p:pic without them isn't valid.
+void takeOverNonVisual(DOMElement* nvPicPr, DOMElement* oldNonVisual, TemplateSlide& slide,
+                       ShapeImpl const& shape) {
+    DOMElement* cNvPr = ElementWriter::findChildElement(oldNonVisual, xml::kCNvPr);
+    DOMElement* nvPr = ElementWriter::findChildElement(oldNonVisual, xml::kNvPr);
+    nvPicPr->appendChild(cNvPr ? cNvPr : newShapeName(slide, shape));
+    nvPicPr->appendChild(newNonVisualPictureProperties(slide.document));
+    nvPicPr->appendChild(nvPr ? nvPr : slide.document->createElement(xml::kNvPr));
+}
+
+// The a:xfrm that gives the box of the shape: its own, or for a placeholder
+// that inherits, the master's shape of the same id.
+DOMElement const* boxTransform(TemplateSlide const& slide, DOMElement const* spPr, DOMElement const* nvSpPr) {
+    if (DOMElement const* xfrm = ElementWriter::findChildElement(spPr, xml::kXfrm)) return xfrm;
+    if (!slide.layout || !slide.layout->master || !nvSpPr) return nullptr;
+    // Layout and master shapes share ids only by custom, not by rule: a
+    // layout whose ids differ finds no box and inherits its geometry.
+    DOMElement const* cNvPr = ElementWriter::findChildElement(nvSpPr, xml::kCNvPr);
+    u16string const id = cNvPr ? u16string(cNvPr->getAttribute(xml::kId)) : u16string();
+    if (id.empty()) return nullptr;
+    auto const& byId = slide.layout->master->shapeElementsById;
+    auto const it = byId.find(id);
+    if (it == byId.end() || !it->second) return nullptr;
+    return ElementWriter::findChildElement(ElementWriter::findChildElement(it->second, xml::kSpPr),
+                                           xml::kXfrm);
+}
+
+// Appends to `pic` the p:spPr of a picture fitted into the box of the given
+// shape properties: the image is scaled down to fit with its aspect kept and
+// centred in the box, but never scaled up; a size given by script code is
+// fitted too, a position given by script code wins over the centring.
+// Without a box the p:spPr stays empty and the placeholder's geometry is
+// inherited.
+void fitPicture(DOMElement* pic, TemplateSlide const& slide, DOMElement const* spPr, DOMElement const* nvSpPr,
+                ShapeImpl const& shape, double width, double height) {
+    DOMElement* properties = appendNew(pic, xml::kSpPr);
+    DOMElement const* xfrm = spPr ? boxTransform(slide, spPr, nvSpPr) : nullptr;
+    DOMElement const* boxOff = ElementWriter::findChildElement(xfrm, xml::kOff);
+    DOMElement const* boxExt = ElementWriter::findChildElement(xfrm, xml::kExt);
+    if (!boxOff || !boxExt) return;
+
+    bool const widthSet = shape.getWidth().isSet(), heightSet = shape.getHeight().isSet();
+    double w = 0.0, h = 0.0;
+    if (widthSet) {
+        w = shape.getWidth().getValue().getEMUNumber();
+        if (!heightSet) h = height * w / width;
+    } else {
+        w = width * kEmuPerPixel;
+        if (!heightSet) h = kEmuPerPixel * height;
+    }
+    if (heightSet) {
+        h = shape.getHeight().getValue().getEMUNumber();
+        if (!widthSet) w = width * h / height;
+    }
+
+    double const boxW = str2double(boxExt->getAttribute(xml::kCx));
+    double const boxH = str2double(boxExt->getAttribute(xml::kCy));
+    double x = str2double(boxOff->getAttribute(xml::kX));
+    double y = str2double(boxOff->getAttribute(xml::kY));
+    // A dimension below one EMU isn't scaled: it would blow the other up.
+    if (h > boxH) {
+        if (h > 1.0) w = w * boxH / h;
+        h = boxH;
+    }
+    if (w > boxW) {
+        if (w > 1.0) h = h * boxW / w;
+        w = boxW;
+    } else if (boxW > w) {
+        x += (boxW - w) * 0.5;
+    }
+    if (boxH > h) y += (boxH - h) * 0.5;
+    if (shape.getX().isSet()) x = shape.getX().getValue().getEMUNumber();
+    if (shape.getY().isSet()) y = shape.getY().getValue().getEMUNumber();
+
+    setPosition(appendNew(properties, xml::kXfrm), emuText(x), emuText(y), emuText(w), emuText(h));
+    appendNew(properties, xml::kPrstGeom)->setAttribute(xml::kPrst, xml::kRect);
 }
 
 }  // namespace
@@ -145,6 +280,49 @@ void applyShapeGeometry(DOMElement* shapeElement, TemplateSlide&, DOMElement con
     }
     setPosition(xfrm, x, y, emuOr(shape.getWidth(), kDefaultShapeExtent),
                 emuOr(shape.getHeight(), kDefaultShapeExtent));
+}
+
+DOMElement* createPicture(u16string const& relationshipId, TemplateSlide& slide, ShapeImpl const& shape) {
+    DOMElement* tree = PresentationModel::getShapeTree(slide.document);
+    if (!tree) return nullptr;
+    DOMElement* nvPicPr = nullptr;
+    DOMElement* pic = pictureSkeleton(slide.document, relationshipId, nvPicPr);
+
+    takeOverNonVisual(nvPicPr, nullptr, slide, shape);
+
+    DOMElement* spPr = appendNew(pic, xml::kSpPr);
+    setPosition(appendNew(spPr, xml::kXfrm), emuOr(shape.getX(), u"0"), emuOr(shape.getY(), u"0"),
+                emuOr(shape.getWidth(), kDefaultShapeExtent), emuOr(shape.getHeight(), kDefaultShapeExtent));
+    appendNew(spPr, xml::kPrstGeom)->setAttribute(xml::kPrst, xml::kRect);
+
+    tree->appendChild(pic);
+    return pic;
+}
+
+DOMElement* createPictureFromPlaceholder(u16string const& relationshipId, TemplateSlide& slide,
+                                         DOMElement* element, DOMElement const* layoutElement,
+                                         ShapeImpl const& shape, double width, double height) {
+    if (!slide.document) return nullptr;
+    DOMElement* nvPicPr = nullptr;
+    DOMElement* pic = pictureSkeleton(slide.document, relationshipId, nvPicPr);
+    takeOverNonVisual(nvPicPr, ElementWriter::findChildElement(element, xml::kNvSpPr), slide, shape);
+    fitPicture(pic, slide, ElementWriter::findChildElement(layoutElement, xml::kSpPr),
+               ElementWriter::findChildElement(layoutElement, xml::kNvSpPr), shape, width, height);
+    return pic;
+}
+
+DOMElement* createPictureFromPicture(u16string const& relationshipId, TemplateSlide& slide,
+                                     DOMElement* element, DOMElement const*, ShapeImpl const& shape,
+                                     double width, double height) {
+    if (!slide.document) return nullptr;
+    DOMElement* nvPicPr = nullptr;
+    DOMElement* pic = pictureSkeleton(slide.document, relationshipId, nvPicPr);
+    takeOverNonVisual(nvPicPr, ElementWriter::findChildElement(element, xml::kNvPicPr), slide, shape);
+    // The template's picture has its box on the slide; there is no p:nvSpPr
+    // through which to ask the master.
+    fitPicture(pic, slide, ElementWriter::findChildElement(element, xml::kSpPr), nullptr, shape, width,
+               height);
+    return pic;
 }
 
 }  // namespace ppt

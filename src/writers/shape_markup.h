@@ -41,5 +41,29 @@ xercesc::DOMElement* createTextBoxShape(TemplateSlide& slide, ShapeImpl const& s
 void applyShapeGeometry(xercesc::DOMElement* shapeElement, TemplateSlide& slide,
                         xercesc::DOMElement const* layoutElement, ShapeImpl const& shape);
 
+// A new p:pic for an image of the slide part's relationship
+// `relationshipId`, appended to the slide's p:spTree with the slide's next
+// shape id, at the shape's position and size or the defaults: the image's
+// own aspect isn't used outside a placeholder. Null without p:spTree. An
+// empty relationship id (an image that couldn't be read) gives an a:blip
+// without r:embed, which readers show as an empty picture frame.
+xercesc::DOMElement* createPicture(u16string const& relationshipId, TemplateSlide& slide,
+                                   ShapeImpl const& shape);
+
+// A p:pic to stand in the place of the placeholder `element` (a p:sp): it
+// takes over the p:cNvPr and p:nvPr of its p:nvSpPr, so id, name and p:ph
+// stay, and is fitted into the box of `layoutElement` (see fitPicture).
+// Not put into the tree: the caller swaps it for `element`.
+xercesc::DOMElement* createPictureFromPlaceholder(u16string const& relationshipId, TemplateSlide& slide,
+                                                  xercesc::DOMElement* element,
+                                                  xercesc::DOMElement const* layoutElement,
+                                                  ShapeImpl const& shape, double width, double height);
+// The same for a p:pic of a template slide, from its p:nvPicPr, fitted into
+// its own box.
+xercesc::DOMElement* createPictureFromPicture(u16string const& relationshipId, TemplateSlide& slide,
+                                              xercesc::DOMElement* element,
+                                              xercesc::DOMElement const* layoutElement,
+                                              ShapeImpl const& shape, double width, double height);
+
 }  // namespace ppt
 }  // namespace deckforge

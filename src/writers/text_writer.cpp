@@ -14,6 +14,26 @@ xml::Name const kRPr{u"a:rPr"};
 xml::Name const kT{u"a:t"};
 xml::Name const kBr{u"a:br"};
 xml::Name const kHlinkClick{u"a:hlinkClick"};
+
+// The position of a child in the sequence of CT_TextCharacterProperties;
+// a name the table doesn't know goes last.
+int runPropertyRank(XMLCh const* name) {
+    static std::vector<std::pair<xml::Name, int>> const ranks{
+        {xml::Name(u"a:ln"), 0},          {xml::Name(u"a:noFill"), 1},
+        {xml::Name(u"a:solidFill"), 1},   {xml::Name(u"a:gradFill"), 1},
+        {xml::Name(u"a:blipFill"), 1},    {xml::Name(u"a:pattFill"), 1},
+        {xml::Name(u"a:grpFill"), 1},     {xml::Name(u"a:effectLst"), 2},
+        {xml::Name(u"a:effectDag"), 2},   {xml::Name(u"a:highlight"), 3},
+        {xml::Name(u"a:uLnTx"), 4},       {xml::Name(u"a:uLn"), 4},
+        {xml::Name(u"a:uFillTx"), 5},     {xml::Name(u"a:uFill"), 5},
+        {xml::Name(u"a:latin"), 6},       {xml::Name(u"a:ea"), 7},
+        {xml::Name(u"a:cs"), 8},          {xml::Name(u"a:sym"), 9},
+        {xml::Name(u"a:hlinkClick"), 10}, {xml::Name(u"a:hlinkMouseOver"), 11},
+        {xml::Name(u"a:rtl"), 12},        {xml::Name(u"a:extLst"), 13}};
+    for (auto const& entry : ranks)
+        if (xercesc::XMLString::equals(entry.first, name)) return entry.second;
+    return 14;
+}
 }  // namespace
 
 TextWriter::TextWriter(TextImpl const* text_, PPTWriter* writer, xercesc::DOMNode* parent)
@@ -90,7 +110,10 @@ xercesc::DOMElement* TextWriter::addRunProperty(XMLCh const* name) {
     xercesc::DOMElement* properties = ensureRunProperties();
     if (!properties) return nullptr;
     xercesc::DOMElement* element = createElement(name);
-    properties->appendChild(element);
+    int const rank = runPropertyRank(name);
+    xercesc::DOMElement* before = properties->getFirstElementChild();
+    while (before && runPropertyRank(before->getTagName()) <= rank) before = before->getNextElementSibling();
+    properties->insertBefore(element, before);
     return element;
 }
 

@@ -30,8 +30,11 @@ public:
 
     // For the formats. a:rPr is created on first use and attached by write().
     xercesc::DOMElement* ensureRunProperties();
-    // Always appends a new child of that name to a:rPr. Like ensure, null
-    // when no slide is being written.
+    // Always adds a new child of that name to a:rPr, after the children that
+    // the schema puts before it or beside it and before those it puts after
+    // it: formats run own first and inherited after, so a plain append could
+    // put a fill behind a font. Like ensure, null when no slide is being
+    // written.
     xercesc::DOMElement* addRunProperty(XMLCh const* name);
     // "1" or "0".
     void setRunAttribute(XMLCh const* name, bool value);

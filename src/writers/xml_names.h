@@ -29,6 +29,14 @@ inline Name const kBodyPr{u"a:bodyPr"};
 inline Name const kLstStyle{u"a:lstStyle"};
 inline Name const kP{u"a:p"};
 inline Name const kEndParaRPr{u"a:endParaRPr"};
+inline Name const kPic{u"p:pic"};
+inline Name const kNvPicPr{u"p:nvPicPr"};
+inline Name const kCNvPicPr{u"p:cNvPicPr"};
+inline Name const kPicLocks{u"a:picLocks"};
+inline Name const kBlipFill{u"p:blipFill"};
+inline Name const kBlip{u"a:blip"};
+inline Name const kStretch{u"a:stretch"};
+inline Name const kFillRect{u"a:fillRect"};
 
 inline Name const kId{u"id"};
 inline Name const kName{u"name"};
@@ -38,6 +46,10 @@ inline Name const kCx{u"cx"};
 inline Name const kCy{u"cy"};
 inline Name const kPrst{u"prst"};
 inline Name const kRect{u"rect"};
+inline Name const kNoGrp{u"noGrp"};
+inline Name const kNoChangeAspect{u"noChangeAspect"};
+inline Name const kEmbed{u"r:embed"};
+inline Name const kXmlnsR{u"xmlns:r"};
 // Ties a shape element to its TemplateShape while the document is in the
 // model; writers take it away.
 inline Name const kDataUid{u"data-uid"};

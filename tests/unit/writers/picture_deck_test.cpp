@@ -1,0 +1,303 @@
+// Pictures in the output: free pictures on a blank slide, pictures in the
+// picture placeholders of two layouts of the default template, and images
+// that can't be used. The decks must be valid, carry their media with the
+// right content types, and open in a real reader.
+#include <cstdint>
+#include <cstdlib>
+#include <regex>
+
+#include <gtest/gtest.h>
+#include <zip.h>
+
+#include "engine/presentation.h"
+#include "nodes/picture_placeholder.h"
+#include "platform/host_services.h"
+#include "writers/writer_fixture.h"
+
+namespace deckforge {
+namespace test {
+namespace {
+
+using ppt::Picture;
+using ppt::PicturePlaceholder;
+
+std::string be32(std::uint32_t v) {
+    return {char(v >> 24), char(v >> 16), char(v >> 8), char(v)};
+}
+
+std::uint32_t crc32(std::string const& bytes) {
+    std::uint32_t crc = 0xFFFFFFFFu;
+    for (unsigned char c : bytes) {
+        crc ^= c;
+        for (int k = 0; k < 8; ++k) crc = (crc >> 1) ^ (0xEDB88320u & (0u - (crc & 1u)));
+    }
+    return ~crc;
+}
+
+std::string chunk(std::string const& type, std::string const& data) {
+    return be32(std::uint32_t(data.size())) + type + data + be32(crc32(type + data));
+}
+
+// A real, decodable PNG: one bit per pixel in a palette of a dark and a light
+// colour, squares of 50 pixels, stored in uncompressed deflate blocks.
+std::string checkerPng(std::uint32_t w, std::uint32_t h) {
+    std::string raw;
+    std::uint32_t const rowBytes = (w + 7) / 8;
+    for (std::uint32_t y = 0; y < h; ++y) {
+        raw += '\0';  // no filter
+        for (std::uint32_t b = 0; b < rowBytes; ++b) {
+            unsigned char byte = 0;
+            for (std::uint32_t bit = 0; bit < 8; ++bit) {
+                std::uint32_t const x = b * 8 + bit;
+                if (x < w && ((x / 50 + y / 50) % 2)) byte |= static_cast<unsigned char>(0x80 >> bit);
+            }
+            raw += char(byte);
+        }
+    }
+    std::string z("\x78\x01", 2);
+    for (std::size_t at = 0; at < raw.size(); at += 65535) {
+        std::size_t const n = std::min<std::size_t>(65535, raw.size() - at);
+        z += char(at + n == raw.size() ? 1 : 0);
+        z += char(n & 0xFF);
+        z += char(n >> 8);
+        z += char(~n & 0xFF);
+        z += char((~n >> 8) & 0xFF);
+        z += raw.substr(at, n);
+    }
+    std::uint32_t a = 1, b = 0;
+    for (unsigned char c : raw) {
+        a = (a + c) % 65521;
+        b = (b + a) % 65521;
+    }
+    z += be32(b << 16 | a);
+    std::string const header = be32(w) + be32(h) + std::string("\x01\x03\0\0\0", 5);
+    return std::string("\x89PNG\r\n\x1a\n", 8) + chunk("IHDR", header) +
+           chunk("PLTE", std::string("\x1f\x3a\x60\xf2\xc1\x4e", 6)) + chunk("IDAT", z) + chunk("IEND", "");
+}
+
+// The attributes of the a:off and a:ext of the i-th p:pic of a slide.
+std::string geometry(std::string const& slide, std::size_t index) {
+    std::size_t at = 0;
+    for (std::size_t i = 0; i <= index; ++i) at = slide.find("<p:pic>", at + 1);
+    if (at == std::string::npos) return "no picture";
+    std::smatch m;
+    std::string const rest = slide.substr(at, slide.find("</p:pic>", at) - at);
+    if (!std::regex_search(rest, m,
+                           std::regex(R"x(<a:off x="(-?\d+)" y="(-?\d+)"/><a:ext cx="(\d+)" cy="(\d+)"/>)x")))
+        return "no xfrm";
+    return m[1].str() + "," + m[2].str() + " " + m[3].str() + "x" + m[4].str();
+}
+
+std::vector<std::string> all(std::string const& text, std::string const& pattern) {
+    std::vector<std::string> found;
+    std::regex const re(pattern);
+    for (auto it = std::sregex_iterator(text.begin(), text.end(), re); it != std::sregex_iterator(); ++it)
+        found.push_back((*it)[1].str());
+    return found;
+}
+
+// An item of the zip as it is stored; the package's own items too.
+std::string zipItem(std::filesystem::path const& file, char const* name) {
+    int error = 0;
+    zip_t* archive = zip_open(file.c_str(), ZIP_RDONLY, &error);
+    if (!archive) return "";
+    std::string bytes;
+    if (zip_file_t* item = zip_fopen(archive, name, 0)) {
+        char buffer[4096];
+        zip_int64_t n;
+        while ((n = zip_fread(item, buffer, sizeof buffer)) > 0) bytes.append(buffer, std::size_t(n));
+        zip_fclose(item);
+    }
+    zip_close(archive);
+    return bytes;
+}
+
+class PictureDeck : public ::testing::Test {
+protected:
+    void SetUp() override { host::setQuorixRoot(binaryDir().u16string()); }
+    void TearDown() override { host::setQuorixRoot(u""); }
+    ScratchDir dir;
+};
+
+TEST_F(PictureDeck, BlankSlideAndPlaceholdersFittedValidAndShown) {
+    writeFile(dir / "wide.png", checkerPng(600, 300));
+    writeFile(dir / "tall.png", checkerPng(1000, 800));
+    std::filesystem::path const deck = dir / "pictures.pptx";
+    {
+        ppt::Presentation p(deck.u16string());
+        ppt::Slide blank = p.add(u"Blank");
+        Picture placed((dir / "wide.png").u16string());  // 600 x 300 pixels
+        placed.setX(u"1in");
+        placed.setY(u"1in");
+        blank.add(placed);
+        Picture unsized((dir / "wide.png").u16string());
+        unsized.unsetWidth();
+        unsized.unsetHeight();
+        unsized.setName(u"Unsized");
+        blank.add(unsized);
+
+        // Both pictures fit their boxes as they are: centred, never enlarged.
+        ppt::Slide titled = p.add(u"Title and Picture");
+        titled.replace(u"Title", u"Wide");
+        PicturePlaceholder::cast(titled.find(u"Picture").at(0))
+            ->replace(Picture((dir / "wide.png").u16string()));
+        // Too tall for its box: scaled down with the aspect kept.
+        ppt::Slide captioned = p.add(u"Picture with Caption");
+        captioned.replace(u"Title", u"Tall");
+        PicturePlaceholder::cast(captioned.find(u"Picture").at(0))
+            ->replace(Picture((dir / "tall.png").u16string()));
+        // A width from script code sets the height by the image's aspect, and
+        // a position from script code wins over the centring.
+        Picture narrow((dir / "wide.png").u16string());
+        narrow.setWidth(u"2in");
+        narrow.unsetHeight();
+        narrow.setX(u"0.5in");
+        ppt::Slide placedByScript = p.add(u"Title and Picture");
+        PicturePlaceholder::cast(placedByScript.find(u"Picture").at(0))->replace(narrow);
+        ASSERT_TRUE(p.close());
+    }
+
+    std::string const types = zipItem(deck, "[Content_Types].xml");
+    EXPECT_NE(std::string::npos, types.find(R"(<Default Extension="png" ContentType="image/png"/>)"))
+        << types;
+    std::size_t media = 0;
+    for (auto const& name : zipEntries(deck)) media += name.rfind("ppt/media/", 0) == 0;
+    EXPECT_EQ(5u, media);  // no image is shared, not even within one slide
+
+    std::string const first = readPart(deck, u"/ppt/slides/slide1.xml");
+    EXPECT_EQ("914400,914400 5715000x2857500", geometry(first, 0));  // 9525 EMU a pixel
+    EXPECT_EQ("0,0 1234567x1234567", geometry(first, 1));
+    EXPECT_NE(std::string::npos, first.find(R"(name="Unsized")"));
+    std::vector<std::string> ids = all(first, R"x(<p:cNvPr id="(\d+)")x");
+    std::sort(ids.begin(), ids.end());
+    EXPECT_EQ(ids.end(), std::adjacent_find(ids.begin(), ids.end())) << first;
+    // Each r:embed names an image relationship of the slide.
+    std::string const rels = zipItem(deck, "ppt/slides/_rels/slide1.xml.rels");
+    for (auto const& id : all(first, R"x(r:embed="([^"]*)")x")) {
+        std::smatch m;
+        ASSERT_TRUE(std::regex_search(rels, m, std::regex("<Relationship [^>]*Id=\"" + id + "\"[^>]*>")));
+        EXPECT_NE(std::string::npos, m.str().find("relationships/image\"")) << m.str();
+        EXPECT_NE(std::string::npos, m.str().find("../media/")) << m.str();
+    }
+    EXPECT_EQ(2u, countOf(first, "<a:blip r:embed="));
+
+    // The placeholder's id, name and p:ph live on in the picture, and its box
+    // from the layout decides where the image goes.
+    std::string const second = readPart(deck, u"/ppt/slides/slide2.xml");
+    EXPECT_NE(std::string::npos, second.find(R"(<p:nvPicPr><p:cNvPr id="6" name="Picture"/>)")) << second;
+    EXPECT_TRUE(std::regex_search(second, std::regex(R"(<p:nvPr><p:ph [^>]*type="pic")"))) << second;
+    EXPECT_EQ("3238500,2352294 5715000x2857500", geometry(second, 0));
+    EXPECT_EQ(std::string::npos, second.find("data-uid"));
+    EXPECT_EQ(std::string::npos, second.find("<p:sp><p:nvSpPr><p:cNvPr id=\"6\""));
+    EXPECT_EQ("4787265,640080 6686550x5349240", geometry(readPart(deck, u"/ppt/slides/slide3.xml"), 0));
+    EXPECT_EQ("457200,3323844 1828800x914400", geometry(readPart(deck, u"/ppt/slides/slide4.xml"), 0));
+
+    if (std::filesystem::exists(schemaValidator())) {
+        std::string const report = validate(deck);
+        EXPECT_NE(std::string::npos, report.find(" 0 invalid")) << report;
+    }
+
+    if (std::system("command -v soffice > /dev/null 2>&1 && command -v pdfinfo > /dev/null 2>&1") != 0)
+        GTEST_SKIP() << "soffice or pdfinfo missing";
+    std::string const d = dir.path().string();
+    ASSERT_EQ(0, std::system(("cd '" + d + "' && HOME='" + d +
+                              "' soffice --headless --convert-to pdf --outdir pdf '" + deck.string() +
+                              "' > /dev/null 2>&1")
+                                 .c_str()));
+    ASSERT_EQ(0, std::system(("pdfinfo '" + d + "/pdf/pictures.pdf' > '" + d + "/info.txt'").c_str()));
+    EXPECT_NE(std::string::npos, readFile(dir / "info.txt").find("Pages:           4"))
+        << readFile(dir / "info.txt");
+    if (char const* keep = std::getenv("DECKFORGE_KEEP_PICTURE_DECK"))
+        std::filesystem::copy(dir / "pdf" / "pictures.pdf", keep,
+                              std::filesystem::copy_options::overwrite_existing);
+}
+
+TEST_F(PictureDeck, ImagesThatCantBeUsedLeaveAValidDeck) {
+    // Measured by their headers, but missing, of no known type, or empty.
+    writeFile(dir / "image.xyz", checkerPng(40, 40));
+    writeFile(dir / "empty.png", "");
+    std::filesystem::path const deck = dir / "bad.pptx";
+    {
+        ppt::Presentation p(deck.u16string());
+        ppt::Slide blank = p.add(u"Blank");
+        for (auto name : {"missing.png", "image.xyz", "empty.png"})
+            blank.add(Picture((dir / name).u16string()));
+        ppt::Slide titled = p.add(u"Title and Picture");
+        PicturePlaceholder::cast(titled.find(u"Picture").at(0))
+            ->replace(Picture((dir / "missing.gif").u16string()));
+        ASSERT_TRUE(p.close());
+    }
+    std::string const first = readPart(deck, u"/ppt/slides/slide1.xml");
+    EXPECT_EQ(3u, countOf(first, "<p:pic>"));
+    EXPECT_EQ("0,0 2857500x2857500", geometry(first, 0));  // 300 by 300 pixels
+    EXPECT_EQ("0,0 381000x381000", geometry(first, 1));    // the header of a file of no known type
+    // Only the empty file could be copied; the others have no r:embed.
+    EXPECT_EQ(1u, countOf(first, "r:embed="));
+    std::size_t media = 0;
+    for (auto const& name : zipEntries(deck)) media += name.rfind("ppt/media/", 0) == 0;
+    EXPECT_EQ(1u, media);
+    // The placeholder is fitted as for a 300 by 300 image.
+    std::string const second = readPart(deck, u"/ppt/slides/slide2.xml");
+    EXPECT_EQ("4667250,2352294 2857500x2857500", geometry(second, 0));
+    if (std::filesystem::exists(schemaValidator())) {
+        std::string const report = validate(deck);
+        EXPECT_NE(std::string::npos, report.find(" 0 invalid")) << report;
+    }
+}
+
+TEST_F(PictureDeck, PicturesOfTemplateSlidesTakeANewImageInTheirOwnBox) {
+    std::filesystem::path const framed = realTemplates() / "ppt2016_autoshape-case009-ja.pptx";
+    std::filesystem::path const populated = realTemplates() / "ppt2011mac_ph-populated-placeholders.pptx";
+    if (!std::filesystem::exists(framed) || !std::filesystem::exists(populated))
+        GTEST_SKIP() << "real templates missing";
+    writeFile(dir / "wide.png", checkerPng(600, 300));
+    Picture const wide((dir / "wide.png").u16string());
+
+    // A picture with a box of its own on the slide: scaled down into it,
+    // centred across.
+    {
+        ppt::Presentation p((dir / "framed.pptx").u16string(), framed.u16string());
+        ppt::PPTNodeList const found = p.find(u"Picture 2");
+        ASSERT_EQ(1u, found.size());
+        Picture::cast(found.at(0))->replace(wide);
+        ASSERT_TRUE(p.close());
+    }
+    std::string const slide = readPart(dir / "framed.pptx", u"/ppt/slides/slide1.xml");
+    EXPECT_EQ("4224587,1877137 4475326x2237663", geometry(slide, 0));
+    EXPECT_TRUE(
+        std::regex_search(slide, std::regex(R"x(<p:cNvPr [^>]*id="2050" name="Picture 2"/><p:cNvPicPr>)x")))
+        << slide;
+
+    // A picture placeholder filled in the template inherits its box: the new
+    // image keeps the placeholder's id, name and p:ph and no geometry.
+    {
+        ppt::Presentation p((dir / "populated.pptx").u16string(), populated.u16string());
+        ppt::PPTNodeList const found = p.find(u"Picture Placeholder 2");
+        ASSERT_EQ(1u, found.size());
+        Picture::cast(found.at(0))->replace(wide);
+        ASSERT_TRUE(p.close());
+    }
+    std::string const filled = readPart(dir / "populated.pptx", u"/ppt/slides/slide1.xml");
+    EXPECT_TRUE(std::regex_search(
+        filled,
+        std::regex(
+            R"x(<p:cNvPr [^>]*id="3" name="Picture Placeholder 2"/><p:cNvPicPr>.*<p:ph [^>]*type="pic")x")))
+        << filled;
+    EXPECT_NE(std::string::npos, filled.find("<p:spPr/></p:pic>")) << filled;
+    // Pictures of the other slides that nobody touched lose only the marker.
+    EXPECT_EQ(std::string::npos,
+              readPart(dir / "populated.pptx", u"/ppt/slides/slide2.xml").find("data-uid"));
+    if (std::filesystem::exists(schemaValidator())) {
+        std::string const report = validate(dir / "framed.pptx");
+        EXPECT_NE(std::string::npos, report.find(" 0 invalid")) << report;
+        // Its third slide has an untouched table, which isn't this test's matter.
+        std::string const populatedReport = validate(dir / "populated.pptx", "-e 0");
+        EXPECT_EQ(std::string::npos, populatedReport.find("slide1.xml")) << populatedReport;
+        EXPECT_EQ(std::string::npos, populatedReport.find("slide2.xml")) << populatedReport;
+        EXPECT_EQ(std::string::npos, populatedReport.find("p:pic")) << populatedReport;
+    }
+}
+
+}  // namespace
+}  // namespace test
+}  // namespace deckforge
