@@ -12,7 +12,7 @@ setup:
 	@bash scripts/setup
 
 $(BUILD)/CMakeCache.txt:
-	cmake -S . -B $(BUILD) $(GENERATOR) -DCMAKE_BUILD_TYPE=RelWithDebInfo
+	cmake -S . -B $(BUILD) $(GENERATOR) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_FLAGS_RELWITHDEBINFO="-O2 -g1 -DNDEBUG"
 
 configure: setup $(BUILD)/CMakeCache.txt
 
@@ -21,14 +21,14 @@ build: configure
 
 # Unit tests again under AddressSanitizer and UndefinedBehaviorSanitizer.
 $(BUILD_SAN)/CMakeCache.txt:
-	cmake -S . -B $(BUILD_SAN) $(GENERATOR) -DCMAKE_BUILD_TYPE=Debug -DDECKFORGE_SANITIZE=ON -DDECKFORGE_UNIT_TESTS_ONLY=ON
+	cmake -S . -B $(BUILD_SAN) $(GENERATOR) -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-g1 -DDECKFORGE_SANITIZE=ON -DDECKFORGE_UNIT_TESTS_ONLY=ON
 
 test-native: build
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
 
 test-sanitize: setup $(BUILD_SAN)/CMakeCache.txt
 	cmake --build $(BUILD_SAN) -j $(JOBS)
-	cd $(BUILD_SAN) && ASAN_OPTIONS=detect_leaks=1 ctest --output-on-failure -j $(JOBS) -L unit
+	cd $(BUILD_SAN) && DECKFORGE_NO_OFFICE=1 ASAN_OPTIONS=detect_leaks=1 ctest --output-on-failure -j $(JOBS) -L unit
 
 test: test-native test-sanitize
 

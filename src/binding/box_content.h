@@ -51,6 +51,8 @@ void replaceValueInEach(PPTNodeList const& hits, Value const& value);
 // then the "any" forms, which would otherwise catch every argument.
 void addBoxTextMethods(ClassDescription& cls);
 void addBoxValueMethods(ClassDescription& cls);
+// replace(Picture) of picture and content placeholders.
+void addReplaceByPicture(ClassDescription& cls);
 
 }  // namespace mi
 }  // namespace ppt

@@ -17,6 +17,8 @@ public:
             "  s.replace('Content', {'Point', {'detail'}});   % by name, on the slide");
         cls.addSuperclass("deckforge.ppt.PicturePlaceholder");
         addBoxTextMethods(cls);
+        // Before the "any" forms, which would take a picture as a value.
+        addReplaceByPicture(cls);
         addBoxValueMethods(cls);
     }
 };

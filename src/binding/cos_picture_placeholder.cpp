@@ -1,11 +1,25 @@
 #include "binding/accessors.h"
 #include "binding/box_content.h"
 #include "binding/ppt_classes.h"
+#include "nodes/picture.h"
 #include "nodes/picture_placeholder.h"
 
 namespace deckforge {
 namespace ppt {
 namespace mi {
+
+// A picture takes the placeholder's place and position; the placeholder
+// leaves the slide. Content placeholders share this.
+void addReplaceByPicture(ClassDescription& cls) {
+    constexpr char const* kPicture = "deckforge.ppt.Picture";
+    cls.addMethod(
+        "replace", kPicture, {kPicture},
+        [](Call& c) {
+            Picture picture = c.self<PicturePlaceholder>().replace(c.object<Picture>(0));
+            return toScript(static_cast<PPTObject const&>(picture));
+        },
+        "replace(picture): the picture stands where the placeholder stood; returns it.");
+}
 
 class CosPicturePlaceholder : public CosPPTObjectClassInfo {
 public:
@@ -15,6 +29,8 @@ public:
             "A placeholder of a slide's layout for a picture; until one takes its place it takes text.");
         cls.addSuperclass("deckforge.ppt.BodyPlaceholder");
         addBoxTextMethods(cls);
+        // Before the "any" forms, which would take a picture as a value.
+        addReplaceByPicture(cls);
         addBoxValueMethods(cls);
     }
 };

@@ -1,6 +1,7 @@
 #include "binding/accessors.h"
 #include "binding/box_content.h"
 #include "binding/ppt_classes.h"
+#include "nodes/picture.h"
 #include "engine/slide.h"
 #include "nodes/paragraph.h"
 #include "nodes/text_box.h"
@@ -12,6 +13,7 @@ namespace mi {
 namespace {
 constexpr char const* kParagraph = "deckforge.ppt.Paragraph";
 constexpr char const* kTextBox = "deckforge.ppt.TextBox";
+constexpr char const* kPicture = "deckforge.ppt.Picture";
 }  // namespace
 
 class CosSlide : public CosPPTObjectClassInfo {
@@ -36,6 +38,13 @@ public:
                 return toScript(static_cast<PPTObject const&>(box));
             },
             "add(textBox): the box itself on the slide, above what is there; returns it.");
+        cls.addMethod(
+            "add", kPicture, {kPicture},
+            [](Call& c) {
+                Picture picture = c.self<Slide>().add(c.object<Picture>(0));
+                return toScript(static_cast<PPTObject const&>(picture));
+            },
+            "add(picture): the picture itself on the slide, above what is there; returns it.");
         // By name, on this slide.
         cls.addMethod(
             "add", words::Void, {words::String, words::String},

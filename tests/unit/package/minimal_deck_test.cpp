@@ -113,7 +113,7 @@ TEST(OPCPartWriter, MinimalDeckIsAValidPackage) {
 }
 
 TEST(OPCPartWriter, MinimalDeckConvertsWithLibreOffice) {
-    if (run("command -v soffice").second != 0) {
+    if (!::deckforge::test::officeToolsAvailable()) {
         GTEST_SKIP() << "soffice is not installed";
     }
     test::ScratchDir dir;

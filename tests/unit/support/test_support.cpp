@@ -1,6 +1,7 @@
 #include "support/test_support.h"
 
 #include <atomic>
+#include <cstdlib>
 #include <fstream>
 #include <random>
 #include <sstream>
@@ -31,6 +32,12 @@ std::filesystem::path binaryDir() { return DECKFORGE_BINARY_DIR; }
 std::filesystem::path realTemplates() { return std::filesystem::path(DECKFORGE_SHARED_DIR) / "real-templates"; }
 std::filesystem::path schemaValidator() {
     return std::filesystem::path(DECKFORGE_SHARED_DIR) / "ooxml-schemas" / "validate-pptx";
+}
+
+bool officeToolsAvailable() {
+    if (std::getenv("DECKFORGE_NO_OFFICE")) return false;
+    return std::system("command -v soffice >/dev/null 2>&1 && command -v pdfinfo >/dev/null 2>&1 && "
+                       "command -v pdftotext >/dev/null 2>&1") == 0;
 }
 
 std::string readFile(std::filesystem::path const& p) {

@@ -25,6 +25,11 @@ std::filesystem::path binaryDir();      // the build tree
 std::filesystem::path realTemplates();  // ../shared/real-templates
 std::filesystem::path schemaValidator();  // ../shared/ooxml-schemas/validate-pptx
 
+// Whether LibreOffice and poppler's tools are there for a round trip through
+// a real reader. The sanitizer run sets DECKFORGE_NO_OFFICE: those round trips
+// exercise the office suite, not our code, and the plain build has run them.
+bool officeToolsAvailable();
+
 std::string readFile(std::filesystem::path const& p);
 void writeFile(std::filesystem::path const& p, std::string const& bytes);
 

@@ -283,7 +283,7 @@ TEST_F(OwnTemplates, EveryLayoutOfEveryMasterValidatesAndOpensInAnOfficeSuite) {
         }
     }
 
-    if (std::system("command -v soffice > /dev/null 2>&1 && command -v pdfinfo > /dev/null 2>&1") != 0)
+    if (!::deckforge::test::officeToolsAvailable())
         GTEST_SKIP() << "soffice or pdfinfo missing";
     // One run for all decks, with a profile of its own: each start costs seconds.
     std::string command = "cd '" + dir.path().string() + "' && soffice -env:UserInstallation=file://" +

@@ -93,7 +93,7 @@ TEST(TextDeck, FilledByNameValidAndReadableInOrder) {
     }
 
     // One run of the office suite for all decks: each start costs seconds.
-    if (std::system("command -v soffice > /dev/null 2>&1 && command -v pdftotext > /dev/null 2>&1") != 0)
+    if (!::deckforge::test::officeToolsAvailable())
         GTEST_SKIP() << "soffice or pdftotext missing";
     std::string command = "cd '" + dir.path().string() + "' && HOME='" + dir.path().string() +
                           "' soffice --headless --convert-to pdf --outdir pdf";
