@@ -14,7 +14,10 @@
 #include "binding/class_info.h"
 #include "binding/value.h"
 #include "engine/ppt_node.h"
+#include "binding/invoke.h"
+#include "binding/marshal.h"
 #include "nodes/list_item.h"
+#include "nodes/paragraph.h"
 
 namespace deckforge {
 namespace ppt {
@@ -53,6 +56,43 @@ void addBoxTextMethods(ClassDescription& cls);
 void addBoxValueMethods(ClassDescription& cls);
 // replace(Picture) of picture and content placeholders.
 void addReplaceByPicture(ClassDescription& cls);
+
+// The operations by name that a presentation and a slide share: add of a
+// paragraph, replace by text, by a paragraph and by a list, in each node of
+// that name below `Root`.
+template <class Root>
+void addContentByNameMethods(ClassDescription& cls) {
+    constexpr char const* kParagraph = "deckforge.ppt.Paragraph";
+    cls.addMethod(
+        "add", words::Void, {words::String, kParagraph},
+        [](Call& c) {
+            c.self<Root>().add(c.text(0), c.object<Paragraph>(1));
+            return Value();
+        },
+        "add(name, paragraph): the paragraph (copies after the first) to each box of that name.");
+    cls.addMethod(
+        "replace", words::Void, {words::String, words::String},
+        [](Call& c) {
+            c.self<Root>().replace(c.text(0), c.text(1));
+            return Value();
+        },
+        "replace(name, text): the text becomes the only content of each box of that name.");
+    cls.addMethod(
+        "replace", words::Void, {words::String, kParagraph},
+        [](Call& c) {
+            c.self<Root>().replace(c.text(0), c.object<Paragraph>(1));
+            return Value();
+        },
+        "replace(name, paragraph): the same with a paragraph (copies after the first).");
+    cls.addMethod(
+        "replace", words::Void, {words::Any, words::Any},
+        [](Call& c) {
+            u16string const name = toText(c.raw(0));
+            replaceValueInEach(c.self<Root>().find(name), c.raw(1));
+            return Value();
+        },
+        "replace(name, list): a cell array's paragraphs, nested cells a level deeper, in each box.");
+}
 
 }  // namespace mi
 }  // namespace ppt

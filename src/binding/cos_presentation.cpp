@@ -12,7 +12,6 @@ namespace mi {
 
 namespace {
 constexpr char const* kSlide = "deckforge.ppt.Slide";
-constexpr char const* kParagraph = "deckforge.ppt.Paragraph";
 
 Value slideResult(Slide const& slide) {
     return toScript(static_cast<PPTObject const&>(slide));
@@ -94,35 +93,7 @@ public:
             "add(layout, master, index): a new slide at the 1-based index.");
         // By name, on every slide. There is no add(name, text): two texts
         // name a layout and its master.
-        cls.addMethod(
-            "add", words::Void, {words::String, kParagraph},
-            [](Call& c) {
-                c.self<Presentation>().add(c.text(0), c.object<Paragraph>(1));
-                return Value();
-            },
-            "add(name, paragraph): the paragraph (copies after the first) to each box of that name.");
-        cls.addMethod(
-            "replace", words::Void, {words::String, words::String},
-            [](Call& c) {
-                c.self<Presentation>().replace(c.text(0), c.text(1));
-                return Value();
-            },
-            "replace(name, text): the text becomes the only content of each box of that name.");
-        cls.addMethod(
-            "replace", words::Void, {words::String, kParagraph},
-            [](Call& c) {
-                c.self<Presentation>().replace(c.text(0), c.object<Paragraph>(1));
-                return Value();
-            },
-            "replace(name, paragraph): the same with a paragraph (copies after the first).");
-        cls.addMethod(
-            "replace", words::Void, {words::Any, words::Any},
-            [](Call& c) {
-                u16string const name = toText(c.raw(0));
-                replaceValueInEach(c.self<Presentation>().find(name), c.raw(1));
-                return Value();
-            },
-            "replace(name, list): a cell array's paragraphs, nested cells a level deeper, in each box.");
+        addContentByNameMethods<Presentation>(cls);
         cls.addMethod(
             "getMasterNames", words::Any, {},
             [](Call& c) { return toScript(c.self<Presentation>().getMasterNames()); },

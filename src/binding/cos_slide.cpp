@@ -11,7 +11,6 @@ namespace ppt {
 namespace mi {
 
 namespace {
-constexpr char const* kParagraph = "deckforge.ppt.Paragraph";
 constexpr char const* kTextBox = "deckforge.ppt.TextBox";
 constexpr char const* kPicture = "deckforge.ppt.Picture";
 }  // namespace
@@ -53,35 +52,7 @@ public:
                 return Value();
             },
             "add(name, text): a paragraph of the text after the others in each box of that name.");
-        cls.addMethod(
-            "add", words::Void, {words::String, kParagraph},
-            [](Call& c) {
-                c.self<Slide>().add(c.text(0), c.object<Paragraph>(1));
-                return Value();
-            },
-            "add(name, paragraph): the paragraph (copies after the first) to each box of that name.");
-        cls.addMethod(
-            "replace", words::Void, {words::String, words::String},
-            [](Call& c) {
-                c.self<Slide>().replace(c.text(0), c.text(1));
-                return Value();
-            },
-            "replace(name, text): the text becomes the only content of each box of that name.");
-        cls.addMethod(
-            "replace", words::Void, {words::String, kParagraph},
-            [](Call& c) {
-                c.self<Slide>().replace(c.text(0), c.object<Paragraph>(1));
-                return Value();
-            },
-            "replace(name, paragraph): the same with a paragraph (copies after the first).");
-        cls.addMethod(
-            "replace", words::Void, {words::Any, words::Any},
-            [](Call& c) {
-                u16string const name = toText(c.raw(0));
-                replaceValueInEach(c.self<Slide>().find(name), c.raw(1));
-                return Value();
-            },
-            "replace(name, list): a cell array's paragraphs, nested cells a level deeper, in each box.");
+        addContentByNameMethods<Slide>(cls);
     }
 };
 
