@@ -95,7 +95,7 @@ void SlideImpl::setName(u16string const& name) {
 boost::shared_ptr<Slide> SlideImpl::createFromLayout(PresentationModel const& model,
                                                      boost::shared_ptr<TemplateLayout> const& layout) {
     if (!layout || !layout->shapes) return {};
-    boost::shared_ptr<TemplateSlide> record = model.createSlide(layout);
+    boost::shared_ptr<TemplateSlide> record = model.createSlideRecord(layout);
     if (!record) return {};
 
     auto* impl = new SlideImpl();

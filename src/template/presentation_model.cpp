@@ -360,17 +360,40 @@ boost::shared_ptr<TemplateTableStyle> PresentationModel::findTableStyle(u16strin
 
 boost::shared_ptr<TemplateSlide> PresentationModel::createSlide(
     boost::shared_ptr<TemplateLayout> const& layout) const {
+    boost::shared_ptr<TemplateSlide> slide = createSlideRecord(layout);
+    if (slide) buildSlideDocument(*slide);
+    return slide;
+}
+
+boost::shared_ptr<TemplateSlide> PresentationModel::createSlideRecord(
+    boost::shared_ptr<TemplateLayout> const& layout) const {
     if (!layout) return {};
     auto slide = boost::make_shared<TemplateSlide>();
     slide->layout = layout;
     slide->shapes = layout->shapes;
     slide->nextShapeId = layout->maxShapeId;
-    if (!layout->document) return slide;
+    slide->fromLayout = true;
+    return slide;
+}
 
-    slide->setDocument(static_cast<DOMDocument*>(layout->document->cloneNode(true)));
-    DOMDocument* document = slide->document;
+void PresentationModel::buildSlideDocument(TemplateSlide& slide) {
+    if (slide.document || !slide.fromLayout || !slide.layout || !slide.layout->document) return;
+    TemplateLayout& layout = *slide.layout;
+    if (!layout.slidePrototype) layout.slidePrototype = deriveSlidePrototype(layout.document);
+    slide.setDocument(static_cast<DOMDocument*>(layout.slidePrototype->cloneNode(true)));
+    indexShapeElements(slide);
+}
+
+void PresentationModel::releaseSlideDocument(TemplateSlide& slide) {
+    if (!slide.fromLayout) return;
+    slide.shapeElementsByUid.clear();
+    slide.setDocument(nullptr);
+}
+
+DOMDocument* PresentationModel::deriveSlidePrototype(DOMDocument const* layoutDocument) {
+    auto* document = static_cast<DOMDocument*>(layoutDocument->cloneNode(true));
     DOMElement* oldRoot = document->getDocumentElement();
-    if (!oldRoot) return slide;
+    if (!oldRoot) return document;
 
     // The slide root takes the layout root's attributes, namespace
     // declarations included, less those that only mean something on a layout.
@@ -427,9 +450,7 @@ boost::shared_ptr<TemplateSlide> PresentationModel::createSlide(
     for (DOMNode* node : removals) {
         if (DOMNode* parent = node->getParentNode()) parent->removeChild(node);
     }
-
-    indexShapeElements(*slide);
-    return slide;
+    return document;
 }
 
 void PresentationModel::setSlideName(boost::shared_ptr<TemplateSlide> const& slide,

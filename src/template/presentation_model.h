@@ -74,6 +74,13 @@ public:
     // placeholders lose their geometry and text, and the layout's fixed
     // shapes go (the layout draws them). Empty for an empty layout pointer.
     boost::shared_ptr<TemplateSlide> createSlide(boost::shared_ptr<TemplateLayout> const& layout) const;
+    // The same slide without its document yet: a deck of thousands of
+    // slides holds one document at a time, made when the slide is written.
+    boost::shared_ptr<TemplateSlide> createSlideRecord(boost::shared_ptr<TemplateLayout> const& layout) const;
+    // Gives a slide made from a layout its document, if it has none.
+    static void buildSlideDocument(TemplateSlide& slide);
+    // Drops the document of a slide made from a layout once it is written.
+    static void releaseSlideDocument(TemplateSlide& slide);
     // Sets "name" on the p:cSld of the slide's document, if there is one.
     void setSlideName(boost::shared_ptr<TemplateSlide> const& slide, u16string const& name) const;
 
@@ -99,6 +106,10 @@ public:
     static void indexShapeElements(TemplateSlide& slide);
 
 private:
+    // A clone of the layout's document made into a slide's, with the
+    // content taken out as createSlide says.
+    static xercesc::DOMDocument* deriveSlidePrototype(xercesc::DOMDocument const* layoutDocument);
+
     void readMasters(opc::model::Part const& presentationPart);
     boost::shared_ptr<TemplateTheme> readTheme(opc::model::Part const& part);
     boost::shared_ptr<TemplateLayout> readLayout(opc::model::Part const& part);

@@ -14,6 +14,10 @@ TemplateShape::TemplateShape(ShapeKind kind) : nodeType(kind) {
     uid = num2str(static_cast<unsigned long>(++gShapeUidCounter));
 }
 
+TemplateLayout::~TemplateLayout() {
+    if (slidePrototype) slidePrototype->release();
+}
+
 TemplateSlide::~TemplateSlide() {
     if (document) document->release();
 }

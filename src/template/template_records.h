@@ -74,6 +74,8 @@ public:
 
 class TemplateLayout : private boost::noncopyable {
 public:
+    ~TemplateLayout();
+
     u16string partName;
     u16string type;            // "type" of the p:sldLayout
     u16string masterPartName;  // target of the layout's slideMaster relationship
@@ -86,6 +88,10 @@ public:
     // the layout: PresentationModel breaks that cycle when it dies.
     boost::shared_ptr<TemplateMaster> master;
     std::uint32_t maxShapeId = 1;
+    // The document a new slide of this layout starts from, made on first
+    // use and owned here: cloning it is cheaper than deriving every slide
+    // from the layout again.
+    xercesc::DOMDocument* slidePrototype = nullptr;
 };
 
 using TemplateLayoutList = std::vector<boost::shared_ptr<TemplateLayout>>;
@@ -125,6 +131,9 @@ public:
     boost::shared_ptr<TemplateShapeList> shapes;
     // The "id" of the next shape created on the slide.
     std::uint32_t nextShapeId = 0;
+    // A slide made from a layout owns its document, and has one only while
+    // it is being written: until then everything it holds is in the nodes.
+    bool fromLayout = false;
 };
 
 using TemplateSlideList = std::vector<boost::shared_ptr<TemplateSlide>>;

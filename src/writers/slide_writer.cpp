@@ -14,6 +14,7 @@ void SlideWriter::write() {
     boost::shared_ptr<TemplateSlide> const templateSlide = slide->getTemplateSlide();
     if (!templateSlide) return;
 
+    PresentationModel::buildSlideDocument(*templateSlide);
     // Also for an empty name, so that the p:cSld always says it.
     getModel()->setSlideName(templateSlide, slide->getName());
     // A template slide keeps its part; a new one gets the next free name.
@@ -26,6 +27,7 @@ void SlideWriter::write() {
     writeChildren(nullptr);
 
     getPartWriter()->writeDocument(templateSlide->partName, templateSlide->document);
+    PresentationModel::releaseSlideDocument(*templateSlide);
 }
 
 }  // namespace ppt

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <xercesc/dom/DOM.hpp>
 
+#include "template/presentation_model.h"
 #include "engine/presentation.h"
 #include "engine/presentation_fixture.h"
 #include "formats/alignment.h"
@@ -174,6 +175,7 @@ TEST_F(FormatRendering, EveryFormatKindGivesAValidDeck) {
     title->setUnderlineStyle(u"wavydouble");
     // Shapes of the slide that have a fill and an outline already: the
     // title's fill gives way to its colour, before the outline.
+    PresentationModel::buildSlideDocument(*slide.slideImpl()->getTemplateSlide());
     xercesc::DOMDocument* document = slide.slideImpl()->getTemplateSlide()->document;
     xercesc::DOMNodeList* shapes = document->getElementsByTagName(u"p:spPr");
     for (XMLSize_t i = 0; i < shapes->getLength(); ++i) {

@@ -11,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include "template/presentation_model.h"
 #include "engine/presentation.h"
 #include "engine/presentation_fixture.h"
 #include "nodes/paragraph.h"
@@ -177,6 +178,7 @@ TEST_F(TextRendering, HostileTextAndTargetsStayValid) {
             Paragraph(u"one\ntwo\r\nthree\vfour\n"), links},
            {}, [](Slide& slide) {
                // Make the links declare the prefix of r:id themselves.
+               PresentationModel::buildSlideDocument(*slide.slideImpl()->getTemplateSlide());
                slide.slideImpl()->getTemplateSlide()->document->getDocumentElement()->removeAttribute(
                    u"xmlns:r");
            });
