@@ -8,6 +8,7 @@
 #include <octave/cdef-utils.h>
 #include <octave/oct-map.h>
 #include <octave/ov-classdef.h>
+#include <octave/parse.h>
 
 #include "binding/script_object.h"
 #include "platform/i18n.h"
@@ -84,6 +85,36 @@ ObjectRef refFromClassdef(octave_value const& v) {
     return ref;
 }
 
+// A field of an object read through its class's own indexing, as `object.name`.
+octave_value indexField(octave_value const& object, char const* name) {
+    octave_scalar_map index;
+    index.assign("type", ".");
+    index.assign("subs", name);
+    return octave::feval("subsref", ovl(object, index), 1)(0);
+}
+
+// A dataframe (of the dataframe package) crosses as the struct array of its
+// rows, a field for each column in order: the library shows a struct array
+// as a table with the field names as headers. Its `cell` form has the column
+// names, types and row names around the values, which end it.
+hvArray dataframeRows(octave_value const& frame) {
+    Matrix size = octave::feval("size", ovl(frame), 1)(0).matrix_value();
+    std::size_t const rows = size.numel() > 0 ? static_cast<std::size_t>(size(0)) : 0;
+    std::size_t const cols = size.numel() > 1 ? static_cast<std::size_t>(size(1)) : 0;
+    hvArray records(hvClassID::Struct, rows, 1);
+    if (rows == 0 || cols == 0) return records;
+    Array<std::string> names = indexField(frame, "colnames").cellstr_value();
+    Cell all = indexField(frame, "cell").cell_value();
+    std::size_t const top = static_cast<std::size_t>(all.rows()) - rows;
+    std::size_t const left = static_cast<std::size_t>(all.columns()) - cols;
+    for (std::size_t c = 0; c < cols && c < static_cast<std::size_t>(names.numel()); ++c) {
+        std::string const& name = names(c);
+        for (std::size_t r = 0; r < rows; ++r)
+            records.setField(r, name, hvFromOctave(all(top + r, left + c)));
+    }
+    return records;
+}
+
 }  // namespace
 
 void* objectIdentity(octave_value const& object) {
@@ -114,6 +145,7 @@ Value fromOctave(octave_value const& v) {
         for (octave_idx_type i = 0; i < c.numel(); ++i) elements.push_back(fromOctave(c(i)));
         return Value::cell(rows, cols, std::move(elements));
     }
+    if (v.isobject() && v.class_name() == "dataframe") return Value(dataframeRows(v));
     if (v.isobject() || v.is_function_handle() || v.is_inline_function()) {
         ObjectRef ref;
         ref.className = v.class_name();

@@ -1,8 +1,11 @@
 #include "binding/box_content.h"
 
+#include "binding/host_content.h"
 #include "binding/invoke.h"
 #include "binding/marshal.h"
 #include "nodes/base_text_box.h"
+#include "nodes/content_placeholder.h"
+#include "nodes/table_placeholder.h"
 #include "nodes/text_box_placeholder.h"
 #include "platform/msg_ids.h"
 
@@ -13,6 +16,7 @@ namespace mi {
 namespace {
 
 constexpr char const* kParagraph = "deckforge.ppt.Paragraph";
+constexpr char const* kTable = "deckforge.ppt.Table";
 
 ListItem toListItem(Value const& element) {
     if (element.isCell()) {
@@ -69,6 +73,24 @@ void replaceValue(BaseTextBox const& box, Value const& value) {
         if (impl->isA(NodeType::ContentPlaceholder)) return;
         raise<ppt_error::invalidReplaceArg>();
     }
+    // A Table object takes the place of a placeholder made for one; so does
+    // a table value (a struct array, a dataframe) for a content placeholder.
+    // A cell array stays a list.
+    if (impl->isA(NodeType::ContentPlaceholder)) {
+        ContentPlaceholder placeholder(impl);
+        if (isHostTable(value)) {
+            placeholder.replace(Table(toHvTable(value)));
+            return;
+        }
+        if (fitsWord(value, kTable) && value.isObject()) {
+            placeholder.replace(toObject<Table>(value, kTable));
+            return;
+        }
+    }
+    if (impl->isA(NodeType::TablePlaceholder) && value.isObject() && fitsWord(value, kTable)) {
+        TablePlaceholder(impl).replace(toObject<Table>(value, kTable));
+        return;
+    }
     if (!value.isCell()) raise<ppt_error::invalidReplaceArg>();
     BaseTextBox(box).replace(toListItems(value));
 }
@@ -85,8 +107,11 @@ void replaceValueInEach(PPTNodeList const& hits, Value const& value) {
             case NodeType::TextBoxPlaceholder:
                 replaceValue(BaseTextBox(hit->getImpl()), value);
                 break;
-            case NodeType::Picture:
             case NodeType::Table:
+                if (!value.isObject() || !fitsWord(value, kTable)) raise<ppt_error::invalidReplaceArg>();
+                Table(hit->getImpl()).replace(toObject<Table>(value, kTable));
+                break;
+            case NodeType::Picture:
                 raise<ppt_error::invalidReplaceArg>();
             default:
                 break;

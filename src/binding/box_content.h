@@ -18,6 +18,7 @@
 #include "binding/marshal.h"
 #include "nodes/list_item.h"
 #include "nodes/paragraph.h"
+#include "nodes/table.h"
 
 namespace deckforge {
 namespace ppt {
@@ -38,13 +39,15 @@ void addValue(BaseTextBox const& box, Value const& value);
 
 // "replace" with "any": a non-empty cell array replaces the paragraphs by
 // its list; anything else raises invalidReplaceArg. A content placeholder
-// takes an empty value as "nothing to do". Placeholders that other objects
-// may replace check first that they still stand on a slide.
+// takes an empty value as "nothing to do", and gives its place to a table
+// made of a struct array or dataframe; it and a table placeholder give it
+// to a Table object too. Placeholders that other objects may replace check
+// first that they still stand on a slide.
 void replaceValue(BaseTextBox const& box, Value const& value);
 
 // Replace by name: each box and placeholder among the hits as replaceValue;
-// a picture or a table among them can't take a list (invalidReplaceArg);
-// other hits are passed over.
+// a table among them takes a Table object and nothing else, a picture
+// nothing (invalidReplaceArg); other hits are passed over.
 void replaceValueInEach(PPTNodeList const& hits, Value const& value);
 
 // The overloads of "add" and "replace" of a box class. A class that
@@ -56,6 +59,18 @@ void addBoxTextMethods(ClassDescription& cls);
 void addBoxValueMethods(ClassDescription& cls);
 // replace(Picture) of picture and content placeholders.
 void addReplaceByPicture(ClassDescription& cls);
+// replace(Table) of table and content placeholders.
+template <class Placeholder>
+void addReplaceByTable(ClassDescription& cls) {
+    constexpr char const* kTable = "deckforge.ppt.Table";
+    cls.addMethod(
+        "replace", kTable, {kTable},
+        [](Call& c) {
+            Table const table = c.self<Placeholder>().replace(c.object<Table>(0));
+            return toScript(static_cast<PPTObject const&>(table));
+        },
+        "replace(table): a copy of the table stands where the placeholder stood; returns it.");
+}
 
 // The operations by name that a presentation and a slide share: add of a
 // paragraph, replace by text, by a paragraph and by a list, in each node of

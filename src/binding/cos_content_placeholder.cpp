@@ -14,11 +14,15 @@ public:
         cls.setHelp(
             "A placeholder of a slide's layout for any content: text, lists, a picture or a table.\n"
             "  s = p.add('Title and Content');\n"
-            "  s.replace('Content', {'Point', {'detail'}});   % by name, on the slide");
+            "  s.replace('Content', {'Point', {'detail'}});   % by name, on the slide\n"
+            "A Table, or a struct array or dataframe made into one, takes its place:\n"
+            "  s.find('Content'){1}.replace(struct('Item', {'a', 'b'}, 'Count', {1, 2}));\n"
+            "A cell array stays a list of paragraphs; make a Table of it to get a table.");
         cls.addSuperclass("deckforge.ppt.PicturePlaceholder");
         addBoxTextMethods(cls);
-        // Before the "any" forms, which would take a picture as a value.
+        // Before the "any" forms, which would take a picture or a table as a value.
         addReplaceByPicture(cls);
+        addReplaceByTable<ContentPlaceholder>(cls);
         addBoxValueMethods(cls);
     }
 };

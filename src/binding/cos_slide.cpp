@@ -2,6 +2,7 @@
 #include "binding/box_content.h"
 #include "binding/ppt_classes.h"
 #include "nodes/picture.h"
+#include "nodes/table.h"
 #include "engine/slide.h"
 #include "nodes/paragraph.h"
 #include "nodes/text_box.h"
@@ -13,6 +14,7 @@ namespace mi {
 namespace {
 constexpr char const* kTextBox = "deckforge.ppt.TextBox";
 constexpr char const* kPicture = "deckforge.ppt.Picture";
+constexpr char const* kTable = "deckforge.ppt.Table";
 }  // namespace
 
 class CosSlide : public CosPPTObjectClassInfo {
@@ -44,6 +46,13 @@ public:
                 return toScript(static_cast<PPTObject const&>(picture));
             },
             "add(picture): the picture itself on the slide, above what is there; returns it.");
+        cls.addMethod(
+            "add", kTable, {kTable},
+            [](Call& c) {
+                Table table = c.self<Slide>().add(c.object<Table>(0));
+                return toScript(static_cast<PPTObject const&>(table));
+            },
+            "add(table): the table itself on the slide, above what is there; returns it.");
         // By name, on this slide.
         cls.addMethod(
             "add", words::Void, {words::String, words::String},

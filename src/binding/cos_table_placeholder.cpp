@@ -12,9 +12,12 @@ public:
     CosTablePlaceholder() : CosPPTObjectClassInfo("TablePlaceholder") {}
     void initializeClass(ClassDescription& cls) const override {
         cls.setHelp(
-            "A placeholder of a slide's layout for a table; until one takes its place it takes text.");
+            "A placeholder of a slide's layout for a table; until one takes its place it takes text.\n"
+            "  s = p.add('Title and Table');\n"
+            "  s.find('Table'){1}.replace(deckforge.ppt.Table({'a', 1; 'b', 2}));");
         cls.addSuperclass("deckforge.ppt.BodyPlaceholder");
         addBoxTextMethods(cls);
+        addReplaceByTable<TablePlaceholder>(cls);
     }
 };
 

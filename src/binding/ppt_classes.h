@@ -50,9 +50,12 @@
     X(CosGroup)                  \
     X(CosPicture)                \
     X(CosTable)                  \
+    X(CosColSpec)                \
     X(CosText)                   \
     X(CosExternalLink)           \
-    X(CosParagraph)
+    X(CosParagraph)              \
+    X(CosTableEntry)             \
+    X(CosTableRow)
 
 namespace deckforge {
 namespace ppt {

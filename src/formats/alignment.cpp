@@ -5,6 +5,7 @@
 #include "formats/value_table.h"
 #include "writers/base_text_box_writer.h"
 #include "writers/paragraph_writer.h"
+#include "writers/table_entry_writer.h"
 #include "writers/xml_names.h"
 
 namespace deckforge {
@@ -91,6 +92,10 @@ bool VAlignImpl::isCentered() const {
 void VAlignImpl::applyToBaseTextBox(BaseTextBoxWriter& writer) const {
     writer.setBodyAttribute(kAnchor, getAnchor().c_str());
     writer.setBodyAttribute(kAnchorCtr, isCentered());
+}
+void VAlignImpl::applyToTableEntry(TableEntryWriter& writer) const {
+    writer.setCellAttribute(kAnchor, getAnchor().c_str());
+    writer.setCellAttribute(kAnchorCtr, isCentered());
 }
 boost::shared_ptr<Format> VAlignImpl::clone() const {
     return (new VAlignImpl(*this))->makeInterface();

@@ -48,6 +48,8 @@ public:
     FormatType getFormatType() const override;
     // "anchor" and then "anchorCtr" on a:bodyPr, both always.
     void applyToBaseTextBox(BaseTextBoxWriter& writer) const override;
+    // The same on the cell's a:tcPr.
+    void applyToTableEntry(TableEntryWriter& writer) const override;
     boost::shared_ptr<Format> clone() const override;
 
     u16string const& getValue() const { return mValue; }

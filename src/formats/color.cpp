@@ -8,6 +8,7 @@
 
 #include "platform/msg_ids.h"
 #include "writers/base_text_box_writer.h"
+#include "writers/table_entry_writer.h"
 #include "writers/text_writer.h"
 #include "writers/xml_names.h"
 
@@ -232,6 +233,9 @@ FormatType BackgroundColorImpl::getFormatType() const {
 }
 void BackgroundColorImpl::applyToBaseTextBox(BaseTextBoxWriter& writer) const {
     fill(writer.replaceShapeFill(kSolidFill), getHexValue());
+}
+void BackgroundColorImpl::applyToTableEntry(TableEntryWriter& writer) const {
+    fill(writer.addCellProperty(kSolidFill), getHexValue());
 }
 
 BackgroundColor::BackgroundColor() : Color(new BackgroundColorImpl()) {}

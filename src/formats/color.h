@@ -46,6 +46,8 @@ public:
     FormatType getFormatType() const override;
     // Replaces whatever fill the shape properties have.
     void applyToBaseTextBox(BaseTextBoxWriter& writer) const override;
+    // The cell's a:solidFill.
+    void applyToTableEntry(TableEntryWriter& writer) const override;
 };
 
 class BackgroundColor : public Color {

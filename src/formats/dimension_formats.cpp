@@ -5,6 +5,7 @@
 #include <boost/make_shared.hpp>
 
 #include "platform/msg_ids.h"
+#include "writers/table_entry_writer.h"
 #include "writers/text_writer.h"
 #include "writers/xml_names.h"
 
@@ -50,6 +51,9 @@ FormatType ColWidthImpl::getFormatType() const {
 }
 boost::shared_ptr<Format> ColWidthImpl::clone() const {
     return (new ColWidthImpl(*this))->makeInterface();
+}
+void ColWidthImpl::applyToTableEntry(TableEntryWriter& writer) const {
+    writer.widenColumn(static_cast<double>(getDimension().getEMUNumber()));
 }
 
 ColWidth::ColWidth() : BaseDimension(new ColWidthImpl()) {}

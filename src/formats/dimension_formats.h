@@ -55,6 +55,8 @@ public:
     char const* getFullyQualifiedHobjTypeName() const override;
     boost::shared_ptr<Format> makeInterface() override;
     FormatType getFormatType() const override;
+    // No markup: the column of the entry becomes at least this wide.
+    void applyToTableEntry(TableEntryWriter& writer) const override;
     boost::shared_ptr<Format> clone() const override;
 };
 

@@ -2,6 +2,8 @@
 
 #include <boost/make_shared.hpp>
 
+#include "writers/table_writer.h"
+
 namespace deckforge {
 namespace ppt {
 
@@ -18,6 +20,9 @@ boost::shared_ptr<Format> TableStyleOptionsImpl::makeInterface() {
 }
 FormatType TableStyleOptionsImpl::getFormatType() const {
     return FormatTypeTableStyleOptions;
+}
+void TableStyleOptionsImpl::applyToTable(TableWriter& writer) const {
+    writer.setTableStyleOptions(mOptions);
 }
 boost::shared_ptr<Format> TableStyleOptionsImpl::clone() const {
     return (new TableStyleOptionsImpl(*this))->makeInterface();

@@ -1,6 +1,5 @@
-// The six switches of a table's style. The table writer keeps the options
-// of the nearest TableStyleOptions and writes them on a:tblPr; until the
-// table writers join, the format only holds them.
+// The six switches of a table's style. The format is a table's own: the
+// table writer keeps its options and writes them on a:tblPr.
 #pragma once
 
 #include <boost/shared_ptr.hpp>
@@ -21,6 +20,8 @@ public:
     char const* getFullyQualifiedHobjTypeName() const override;
     boost::shared_ptr<Format> makeInterface() override;
     FormatType getFormatType() const override;
+    // No markup: hands the shared options to the writer.
+    void applyToTable(TableWriter& writer) const override;
     boost::shared_ptr<Format> clone() const override;
 
     // Shared with the writer that renders the table.

@@ -5,6 +5,8 @@
 #include <xercesc/dom/DOM.hpp>
 
 #include "common/dimension.h"
+#include "formats/dimension_formats.h"
+#include "nodes/table.h"
 #include "template/presentation_model.h"
 #include "writers/picture_writer.h"
 #include "writers/ppt_part_writer.h"
@@ -95,6 +97,26 @@ xercesc::DOMElement* PPTWriter::findSlideElement(u16string const& uid) const {
 xercesc::DOMElement* PPTWriter::findLayoutElement(u16string const& uid) const {
     if (!currentSlide || !currentSlide->layout) return nullptr;
     return findIn(currentSlide->layout->shapeElementsByUid, uid);
+}
+
+void PPTWriter::beginTable(TableImpl const* table) {
+    BaseAttribute<Dimension> const& height = table->getHeight();
+    tableContext =
+        boost::make_shared<TableContext>(table->getChildren().size(), table->getNCols(),
+                                         height.isSet() ? height.getValue().getText() : u16string());
+    // Only the specs given have formats: the columns past them have none.
+    auto& formats = tableContext->getColumnFormatsList();
+    auto& widths = tableContext->getColumnWidths();
+    formats.clear();
+    auto const& specs = table->getColSpecs();
+    for (std::size_t i = 0; i < specs.size(); ++i) {
+        formats.push_back(specs[i] ? specs[i]->getStyle() : Formats());
+        if (!specs[i]) continue;
+        auto const width =
+            boost::dynamic_pointer_cast<BaseDimension>(specs[i]->getStyle().getFormat(FormatTypeColWidth));
+        if (width && i < widths.size())
+            widths[i].setValue(static_cast<unsigned int>(width->getDimension().getEMUNumber()));
+    }
 }
 
 void PPTWriter::endTable() {

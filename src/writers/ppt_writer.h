@@ -31,6 +31,7 @@ class PPTPartWriter;
 class PresentationImpl;
 class PresentationModel;
 class PictureImpl;
+class TableImpl;
 
 class PPTWriter : private boost::noncopyable {
 public:
@@ -103,6 +104,9 @@ public:
 
     boost::shared_ptr<TableContext> const& getTableContext() const { return tableContext; }
     void setTableContext(boost::shared_ptr<TableContext> const& context) { tableContext = context; }
+    // A new context for the table: its rows and columns, the row height, and
+    // the formats and widths of its ColSpecs by column.
+    void beginTable(TableImpl const* table);
     void endTable();
 
     void writePicture(PictureImpl const* picture, xercesc::DOMNode* parent);
