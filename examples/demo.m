@@ -49,12 +49,113 @@ function deck = demo (outDir, withPictures)
     s.add (box);
   end
 
+  % Character formats run by run; colours, alignment and a link.
+  format_slide (p.add ('Title Only'));
+
+  % A plot printed without a display, fitted into a picture placeholder.
+  plot_slide (p.add ('Title and Picture'), outDir);
+
+  % A table from a cell array: bold header paragraphs over text and numbers.
+  s = p.add ('Title and Table');
+  s.replace ('Title', 'Tables from cell arrays');
+  head = {'Fruit', 'Boxes', 'Price per kg'};
+  for k = 1:numel (head)
+    head{k} = deckforge.ppt.Paragraph (head{k});
+    head{k}.Bold = true;
+  end
+  fruit = deckforge.ppt.Table ([head; {'apples', 120, 2.35; 'pears', 48, 3.1; 'plums', 7, NaN}]);
+  s.find ('Table'){1}.replace (fruit);
+
+  % A table from a struct array: the field names make the header row.
+  s = p.add ('Title and Content');
+  s.replace ('Title', 'Tables from struct arrays');
+  sales = struct ('Region', {'North', 'South', 'East'}, 'Q1', {1200, 950.5, 1310}, ...
+                  'Q2', {1340, 1002.25, 1298});
+  s.replace ('Content', sales);
+
   p.close ();
   printf ('deck: %s\n', deck);
 
   if withPictures
     write_pictures (deck, outDir);
   end
+end
+
+function format_slide (s)
+  % Formats are properties of runs, paragraphs and boxes; a run's own beat
+  % those it inherits from its paragraph or box.
+  s.replace ('Title', 'Formatted text');
+  box = deckforge.ppt.TextBox ();
+  box.Name = 'Formats';
+  box.X = '0.75in';  box.Y = '1.6in';  box.Width = '11.8in';  box.Height = '2.6in';
+  box.FontSize = '20pt';
+  runs (box.add ('Runs can be '), {'bold', 'Bold', true}, ', ', {'italic', 'Italic', true}, ', ', ...
+        {'underlined', 'Underline', 'single'}, ', ', {'twice', 'Underline', 'double'}, ' or ', ...
+        {'struck through', 'Strike', 'single'}, '.');
+  runs (box.add ('Subscripts and superscripts: H'), {'2', 'Subscript', true}, 'O, E = mc', ...
+        {'2', 'Superscript', true}, '.');
+  runs (box.add ('Any font and size: '), {'Liberation Serif', 'Font', 'Liberation Serif'}, ', ', ...
+        {'DejaVu Sans Mono', 'Font', 'DejaVu Sans Mono'}, ', ', {'small', 'FontSize', '14pt'}, ...
+        ' and ', {'large', 'FontSize', '30pt'}, '.');
+  runs (box.add ('Colours by name or number: '), {'crimson', 'FontColor', 'crimson'}, ', ', ...
+        {'teal', 'FontColor', 'teal'}, ', ', {'#FF8800', 'FontColor', '#FF8800'}, '.');
+  link = box.add ('Links open in a browser: ');
+  link.append (deckforge.ppt.ExternalLink ('https://octave.org', 'octave.org'));
+  s.add (box);
+
+  % Three boxes with a fill, each text placed differently inside.
+  places = {'0.75in', 'left', 'top', 'lightyellow'; ...
+            '4.8in', 'center', 'middle', 'lavender'; ...
+            '8.85in', 'right', 'bottom', '#D8F0E0'};
+  for k = 1:rows (places)
+    box = deckforge.ppt.TextBox ();
+    box.Name = sprintf ('Aligned %d', k);
+    box.X = places{k, 1};  box.Y = '4.4in';  box.Width = '3.7in';  box.Height = '1.5in';
+    box.BackgroundColor = places{k, 4};
+    box.VAlign = places{k, 3};
+    para = box.add (sprintf ('%s and %s on %s', places{k, 2:4}));
+    para.HAlign = places{k, 2};
+    s.add (box);
+  end
+end
+
+function runs (para, varargin)
+  % Appends runs to a paragraph: text as it is, {text, property, value} formatted.
+  for k = 1:numel (varargin)
+    item = varargin{k};
+    if ischar (item)
+      para.append (item);
+    else
+      run = para.append (item{1});
+      run.(item{2}) = item{3};
+    end
+  end
+end
+
+function plot_slide (s, outDir)
+  s.replace ('Title', 'Plots from Octave');
+  % Without a display Octave plots through gnuplot, which warns that it is
+  % not the toolkit of choice.
+  warning ('off', 'Octave:gnuplot-graphics', 'local');
+  if isempty (available_graphics_toolkits ())
+    error ('demo: Octave has no graphics toolkit to plot with; install gnuplot (make setup)');
+  end
+  png = fullfile (outDir, 'demo-plot.png');
+  f = figure ('visible', 'off');
+  unwind_protect
+    t = linspace (0, 4*pi, 200);
+    lines = plot (t, sin (t), t, exp (-t/5) .* cos (2*t));
+    set (lines, 'linewidth', 4);
+    set (gca (), 'fontsize', 14, 'xgrid', 'on', 'ygrid', 'on', 'gridcolor', [0.85 0.85 0.85]);
+    xlim ([0, 4*pi]);
+    title ('sin t and a damped cosine');
+    xlabel ('t');
+    print (f, '-dpng', '-S1000,440', png);
+  unwind_protect_cleanup
+    close (f);
+  end_unwind_protect
+  % The image's pixel size, fitted into the placeholder and centred there.
+  s.find ('Picture'){1}.replace (deckforge.ppt.Picture (png));
 end
 
 function write_pictures (deck, outDir)

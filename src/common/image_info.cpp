@@ -166,7 +166,8 @@ ImageInfo ImageInfo::make(u16string const& path) const {
         hostHeight = hvGetScalar(hvGetField(result.get(), 0, "Height"));
     }
     double fileWidth = 0.0, fileHeight = 0.0;
-    if (hostWidth > 0.0 && hostHeight > 0.0 && std::isfinite(hostWidth) && std::isfinite(hostHeight)) {
+    // A true answer too large for the output is no better than a lying one.
+    if (plausible(hostWidth, hostHeight)) {
         w = hostWidth;
         h = hostHeight;
     } else if (headerSize(path, fileWidth, fileHeight) && plausible(fileWidth, fileHeight)) {

@@ -21,7 +21,9 @@ public:
     // The host's way: "picmeta" gives a structure with the fields Width and
     // Height. Without a host that answers, the file's own header is read for
     // PNG, JPEG, GIF and BMP, so that C++ users and tests get real sizes too.
-    // An unreadable, truncated or implausible file gives this object's size.
+    // An answer of no size, or of more pixels than a picture can be written
+    // with, counts as none. An unreadable, truncated or implausible file
+    // gives this object's size.
     // Errors that the host raises pass through.
     virtual ImageInfo make(u16string const& path) const;
 

@@ -164,9 +164,13 @@ TEST(ImageInfo, HostAnswersWinAndResolutionIsAskedOnce) {
     host->pictureWidth = 33;
     host->pictureHeight = 44;
     EXPECT_SIZE(33, 44, measure(dir, "a.png", png(640, 480)));
-    // A useless answer falls back to the header.
+    // A useless answer falls back to the header, and so does one beyond what
+    // a picture's size can hold.
     host->pictureWidth = 0;
     EXPECT_SIZE(640, 480, measure(dir, "a.png", png(640, 480)));
+    host->pictureWidth = 300000;
+    EXPECT_SIZE(640, 480, measure(dir, "a.png", png(640, 480)));
+    EXPECT_SIZE(300, 300, measure(dir, "wide.png", png(300000, 2)));
 
     host->ppi = 120;
     EXPECT_DOUBLE_EQ(120, InfoUtils::getScreenPixelsPerInch());

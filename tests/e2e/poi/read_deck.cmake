@@ -1,0 +1,46 @@
+# Makes the demo deck with Octave and reads it back with Apache POI: POI must
+# open it, count the slides the engine wrote, and find the texts of
+# placeholders, text boxes, runs with links and table cells, and the plot.
+#   cmake -DOCTAVE=... -DBINARY_DIR=... -DEXAMPLES=... -DJAVA=... -DCLASSPATH=...
+#         -DSCRATCH=... -P read_deck.cmake
+file(REMOVE_RECURSE ${SCRATCH})
+file(MAKE_DIRECTORY ${SCRATCH})
+
+execute_process(
+  COMMAND ${OCTAVE} --no-gui --norc --no-window-system --eval
+    "warning('off', 'Octave:shadowed-function'); addpath('${BINARY_DIR}', '${EXAMPLES}'); \
+     deck = demo('${SCRATCH}', false); \
+     p = deckforge.ppt.Presentation(fullfile('${SCRATCH}', 'reread.pptx'), deck); p.open(); \
+     printf('engine slides: %d\\n', numel(p.Children));"
+  RESULT_VARIABLE status OUTPUT_VARIABLE made ERROR_VARIABLE errors)
+if(NOT status EQUAL 0 OR NOT made MATCHES "engine slides: ([0-9]+)")
+  message(FATAL_ERROR "the demo deck could not be made (${status}):\n${made}\n${errors}")
+endif()
+set(count ${CMAKE_MATCH_1})
+
+execute_process(
+  COMMAND ${JAVA} -cp ${CLASSPATH} ReadDeck ${SCRATCH}/demo.pptx
+  RESULT_VARIABLE status OUTPUT_VARIABLE seen ERROR_VARIABLE errors)
+file(WRITE ${SCRATCH}/poi.txt "${seen}")
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "Apache POI failed on the demo deck (${status}):\n${errors}\n${seen}")
+endif()
+
+# Slide numbers as POI counts them; the names are the shapes' own.
+set(expected
+  "^slides: ${count}\n"
+  "\n1 Title: deckforge\n"
+  "\n2 Content: placeholders filled by name\n"
+  "\n3 Content: File format: ECMA-376\n"
+  "\n5 Note 2: eighteen centimetres across, eight down\n"
+  "\n6 Formats: Runs can be bold, italic, underlined, twice or struck through\\.\n"
+  "\n6 Formats: Subscripts and superscripts: H2O, E = mc2\\.\n"
+  "\n6 Aligned 3: right and bottom on #D8F0E0\n"
+  "\n7 Picture: picture image/png\n"
+  "\n[0-9]+ [^\n]+ \\[1,1\\]: [^\n]+\n")
+foreach(pattern ${expected})
+  if(NOT seen MATCHES "${pattern}")
+    message(FATAL_ERROR "Apache POI did not see \"${pattern}\" in the demo deck:\n${seen}")
+  endif()
+endforeach()
+message(STATUS "Apache POI read ${count} slides")

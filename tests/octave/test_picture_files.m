@@ -1,0 +1,61 @@
+% Image files of each kind as pictures: sizes through picmeta, the content
+% types they are packaged with, and files that can't be measured.
+imwrite (uint8 (repmat (0:199, 50, 1)), 'strip.tif');
+imwrite (uint8 (repmat (0:99, 30, 1)), 'real.png');
+copyfile ('real.png', 'png-named.jpg');
+fid = fopen ('shape.svg', 'w');
+fputs (fid, '<svg xmlns="http://www.w3.org/2000/svg" width="120" height="80"><rect width="120" height="80" fill="red"/></svg>');
+fclose (fid);
+% More pixels across than a picture's size can be written with.
+imwrite (false (2, 300000), 'wide.png');
+fclose (fopen ('empty.png', 'w'));
+bytes = fileread ('real.png');
+fid = fopen ('cut.png', 'w');  fwrite (fid, bytes(1:40));  fclose (fid);
+fid = fopen ('notes.xyz', 'w');  fputs (fid, 'no image');  fclose (fid);
+
+tif = deckforge.ppt.Picture ('strip.tif');
+assert ({tif.Width, tif.Height}, {'200px', '50px'});
+named = deckforge.ppt.Picture ('png-named.jpg');   % the content decides
+assert ({named.Width, named.Height}, {'100px', '30px'});
+svg = deckforge.ppt.Picture ('shape.svg');           % never measured
+meta = picmeta ('shape.svg');                        % though picmeta can
+assert ([meta.Width, meta.Height], [120, 80]);
+assert ({svg.Width, svg.Height}, {'300px', '300px'});
+wide = deckforge.ppt.Picture ('wide.png');
+assert ({wide.Width, wide.Height}, {'300px', '300px'});
+
+% The host's own error passes through, naming the file; nothing is left
+% half made and Octave carries on.
+for bad = {'missing.png', 'empty.png', 'cut.png', 'notes.xyz'}
+  try
+    deckforge.ppt.Picture (bad{1});
+    error ('test:noError', 'no error for %s', bad{1});
+  catch err
+    assert (! strcmp (err.identifier, 'test:noError'), err.message);
+    assert (! isempty (strfind (err.message, bad{1})), err.message);
+  end
+end
+
+out = fullfile (pwd, 'files.pptx');
+p = deckforge.ppt.Presentation (out);
+s = p.add ('Blank');
+for pic = {tif, named, svg, wide}
+  s.add (pic{1});
+end
+p.close ();
+unpacked = fullfile (pwd, 'unpacked');
+confirm_recursive_rmdir (false);
+if exist (unpacked, 'dir'), rmdir (unpacked, 's'); end
+unzip (out, unpacked);
+types = fileread (fullfile (unpacked, '[Content_Types].xml'));
+for t = {'Extension="tif" ContentType="image/tiff"', 'Extension="svg" ContentType="image/svg+xml"', ...
+         'Extension="jpg" ContentType="image/jpeg"'}
+  assert (! isempty (strfind (types, t{1})), 'no %s in %s', t{1}, types);
+end
+
+here = fileparts (mfilename ('fullpath'));
+validator = fullfile (here, '..', '..', '..', 'shared', 'ooxml-schemas', 'validate-pptx');
+if exist (validator, 'file') == 2
+  [status, output] = system (sprintf ('"%s" "%s" 2>&1', validator, out));
+  assert (status == 0, 'validate-pptx failed:\n%s', output);
+end
