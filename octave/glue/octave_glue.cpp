@@ -23,6 +23,7 @@
 #include <octave/quit.h>
 
 #include "binding/invoke.h"
+#include "common/image_info.h"
 #include "binding/module.h"
 #include "binding/script_host.h"
 #include "binding/script_object.h"
@@ -283,6 +284,15 @@ octave_value_list dispatchOp(octave_value_list const& args) {
     if (op == "eq")
         return octave_value_list(octave_value(sameObject(fromOctave(args(1)), fromOctave(args(2)))));
     if (op == "isvalid") return octave_value_list(octave_value(recordOf(args(1)) != nullptr));
+    if (op == "imagesize") {
+        double width = 0, height = 0;
+        if (!InfoUtils::readHeaderSize(toString(stringArg(args, 1)), width, height))
+            return octave_value_list(octave_value(Matrix()));
+        RowVector size(2);
+        size(0) = width;
+        size(1) = height;
+        return octave_value_list(octave_value(size));
+    }
     if (op == "addlistener") return opAddListener(args);
     if (op == "removelistener") return opRemoveListener(args);
     if (op == "initialize") {

@@ -218,6 +218,38 @@ double InfoUtils::getScreenPixelsPerInch() {
     return screenPixelsPerInch;
 }
 
+namespace {
+
+// Whether the file ends as its kind must: PNG with its IEND chunk, GIF with
+// its trailer, JPEG with the end-of-image marker, BMP at the size its header
+// declares. A cut file fails, so that the general reader can say what is
+// wrong with it.
+bool endsWhole(u16string const& path) {
+    std::ifstream in = openBinary(path);
+    if (!in) return false;
+    unsigned char head[6] = {};
+    in.read(reinterpret_cast<char*>(head), sizeof head);
+    in.seekg(0, std::ios::end);
+    std::streamoff const size = in.tellg();
+    if (size < 12) return false;
+    unsigned char tail[12] = {};
+    if (!readAt(in, static_cast<std::uint64_t>(size) - sizeof tail, tail, sizeof tail)) return false;
+    static unsigned char const iend[] = {0, 0, 0, 0, 'I', 'E', 'N', 'D', 0xAE, 0x42, 0x60, 0x82};
+    switch (head[0]) {
+        case 0x89: return std::equal(iend, iend + 12, tail);
+        case 'G': return tail[11] == 0x3B;
+        case 0xFF: return tail[10] == 0xFF && tail[11] == 0xD9;
+        case 'B': return le32(head + 2) == static_cast<std::uint64_t>(size);
+        default: return false;
+    }
+}
+
+}  // namespace
+
+bool InfoUtils::readHeaderSize(u16string const& path, double& width, double& height) {
+    return headerSize(path, width, height) && plausible(width, height) && endsWhole(path);
+}
+
 void InfoUtils::forgetScreenPixelsPerInch() {
     screenPixelsPerInch = -1.0;
 }

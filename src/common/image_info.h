@@ -61,6 +61,13 @@ public:
     static double getScreenPixelsPerInch();
     // Lets the next call ask the host again, as after the host changed.
     static void forgetScreenPixelsPerInch();
+    // The size that a PNG, JPEG, GIF or BMP file's header gives, found by
+    // the file's content; false for other files, implausible sizes and
+    // files that don't end as their kind must.
+    // The host's "picmeta" asks this first: it costs a few reads, where a
+    // general image library costs milliseconds and, in Octave, leaves
+    // worker threads spinning after each call.
+    static bool readHeaderSize(u16string const& path, double& width, double& height);
 };
 
 }  // namespace deckforge

@@ -120,6 +120,25 @@ TEST(ImageInfo, RasterHeadersReadWithoutHost) {
     EXPECT_SIZE(12, 34, measure(dir, "no-extension", gif(12, 34)));
 }
 
+TEST(ImageInfo, HeaderSizesOnlyForFilesThatEndWhole) {
+    ScratchDir dir;
+    std::string const iend = be32(0) + "IEND" + std::string("\xAE\x42\x60\x82", 4);
+    auto size = [&](char const* name, std::string const& bytes) {
+        writeFile(dir / name, bytes);
+        double w = 0, h = 0;
+        return InfoUtils::readHeaderSize((dir / name).u16string(), w, h) ? std::to_string(int(w)) + "x" +
+                                                                             std::to_string(int(h))
+                                                                       : std::string("none");
+    };
+    EXPECT_EQ("640x480", size("whole.png", png(640, 480) + iend));
+    EXPECT_EQ("none", size("cut.png", png(640, 480)));
+    EXPECT_EQ("17x3", size("whole.gif", gif(17, 3) + ";"));
+    EXPECT_EQ("none", size("cut.gif", gif(17, 3)));
+    EXPECT_EQ("none", size("cut.bmp", bmp(300, 200).substr(0, 60)));
+    EXPECT_EQ("1024x768", size("whole.jpg", jpeg(1024, 768) + "\xFF\xD9"));
+    EXPECT_EQ("none", size("huge.png", png(0x7FFFFFFF, 480) + iend));
+}
+
 TEST(ImageInfo, BadFilesGiveTheDefaultSize) {
     ScratchDir dir;
     EXPECT_SIZE(300, 300, measure(dir, "empty.png", ""));
