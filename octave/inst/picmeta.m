@@ -5,7 +5,8 @@
 ## content whatever the extension; any other file that imfinfo reads, TIFF
 ## (its first page) and SVG among them, by imfinfo. The native library asks
 ## for it by name for every picture but EMF and SVG files; a file that
-## neither reads raises imfinfo's error.
+## neither reads raises "deckforge:picmeta:unreadableImage" with imfinfo's
+## message.
 ## @end deftypefn
 function info = picmeta (file)
   ## imfinfo goes through GraphicsMagick, whose OpenMP workers spin for a
@@ -13,7 +14,14 @@ function info = picmeta (file)
   ## a third of the CPU time. A header gives the same two numbers.
   size = __deckforge_gw__ ('imagesize', file);
   if (isempty (size))
-    i = imfinfo (file);
+    try
+      i = imfinfo (file);
+    catch err
+      ## imfinfo's own errors carry no identifier, which scripts need to
+      ## tell this failure from others.
+      error ("deckforge:picmeta:unreadableImage", "picmeta: cannot read the image \"%s\": %s", ...
+             file, err.message);
+    end_try_catch
     size = [double(i(1).Width), double(i(1).Height)];
   endif
   info = struct ('Width', size(1), 'Height', size(2));
