@@ -44,3 +44,29 @@ foreach(pattern ${expected})
   endif()
 endforeach()
 message(STATUS "Apache POI read ${count} slides")
+
+# The deck with every feature: every layout, format, picture kind and table
+# kind. POI must open it and find a text of each kind of content.
+execute_process(
+  COMMAND ${OCTAVE} --no-gui --norc --no-window-system --eval
+    "addpath('${BINARY_DIR}', '${TESTS_OCTAVE}'); [deck, ~, n] = every_feature_deck('${SCRATCH}'); \
+     printf('engine slides: %d\\n', n);"
+  RESULT_VARIABLE status OUTPUT_VARIABLE made ERROR_VARIABLE errors)
+if(NOT status EQUAL 0 OR NOT made MATCHES "engine slides: ([0-9]+)")
+  message(FATAL_ERROR "the deck with every feature could not be made (${status}):\n${made}\n${errors}")
+endif()
+set(count ${CMAKE_MATCH_1})
+execute_process(
+  COMMAND ${JAVA} -cp ${CLASSPATH} ReadDeck ${SCRATCH}/every.pptx
+  RESULT_VARIABLE status OUTPUT_VARIABLE seen ERROR_VARIABLE errors)
+file(WRITE ${SCRATCH}/poi-every.txt "${seen}")
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "Apache POI failed on the deck with every feature (${status}):\n${errors}\n${seen}")
+endif()
+foreach(pattern "^slides: ${count}\n" "Comparison / Text 2" "Formats box: Bold run" "link run"
+                "\\[1,1\\]: Head A" "\\[2,1\\]: struct row" "picture image/tiff" "picture image/gif")
+  if(NOT seen MATCHES "${pattern}")
+    message(FATAL_ERROR "Apache POI did not see \"${pattern}\" in the deck with every feature:\n${seen}")
+  endif()
+endforeach()
+message(STATUS "Apache POI read the deck with every feature: ${count} slides")
