@@ -64,6 +64,7 @@ function deck = demo (outDir, withPictures)
     head{k}.Bold = true;
   end
   fruit = deckforge.ppt.Table ([head; {'apples', 120, 2.35; 'pears', 48, 3.1; 'plums', 7, NaN}]);
+  fruit.StyleName = 'Accent Header';   % a table style of the template
   s.find ('Table'){1}.replace (fruit);
 
   % A table from a struct array: the field names make the header row.
@@ -71,7 +72,9 @@ function deck = demo (outDir, withPictures)
   s.replace ('Title', 'Tables from struct arrays');
   sales = struct ('Region', {'North', 'South', 'East'}, 'Q1', {1200, 950.5, 1310}, ...
                   'Q2', {1340, 1002.25, 1298});
-  s.replace ('Content', sales);
+  regions = deckforge.ppt.Table (sales);
+  regions.StyleName = 'Light Lines';
+  s.find ('Content'){1}.replace (regions);
 
   p.close ();
   printf ('deck: %s\n', deck);
