@@ -107,6 +107,34 @@ bool declaresEntities(std::string const& bytes) {
     return contains(bytes, "<!DOCTYPE") && contains(bytes, "<!ENTITY");
 }
 
+// Xerces clones, serializes and reads text content by recursion, one call per
+// level of nesting; so does the template reader for groups of shapes. Real
+// parts nest a few dozen levels deep.
+constexpr int kMaxElementDepth = 256;
+
+// Whether elements nest deeper than the limit; walks without recursion.
+bool nestsTooDeep(DOMDocument const* document) {
+    int depth = 0;
+    DOMNode const* node = document->getDocumentElement();
+    while (node) {
+        bool const element = node->getNodeType() == DOMNode::ELEMENT_NODE;
+        if (element && ++depth > kMaxElementDepth) return true;
+        if (element && node->getFirstChild()) {
+            node = node->getFirstChild();
+            continue;
+        }
+        if (element) --depth;
+        // Up to the nearest element with a next sibling, leaving each one passed.
+        while (!node->getNextSibling()) {
+            node = node->getParentNode();
+            if (!node || node->getNodeType() != DOMNode::ELEMENT_NODE) return false;
+            --depth;
+        }
+        node = node->getNextSibling();
+    }
+    return false;
+}
+
 DOMImplementation* implementation() {
     static XMLCh const ls[] = u"LS";
     return DOMImplementationRegistry::getDOMImplementation(ls);
@@ -200,6 +228,8 @@ DOMDocument* XercesHelper::readDocumentFromStream(DOMLSParser* parser, InputStre
     warnings = handler.warnings;
     if (failure.empty() && handler.fatal) failure = detail::toUtf8(handler.fatalText);
     if (failure.empty() && !document) failure = "no document";
+    if (failure.empty() && nestsTooDeep(document))
+        failure = "elements nest more than " + std::to_string(kMaxElementDepth) + " levels deep";
     if (!failure.empty()) {
         if (document && adoptDocument) document->release();
         throw Exception("XML error: " + failure);

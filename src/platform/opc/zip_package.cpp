@@ -1,5 +1,6 @@
 #include "platform/opc/zip_package.h"
 
+#include <algorithm>
 #include <ctime>
 #include <filesystem>
 
@@ -7,6 +8,7 @@
 
 #include "platform/opc/exception.h"
 #include "platform/opc/text.h"
+#include "platform/opc/zip_writer.h"
 
 namespace opc {
 namespace zippackage {
@@ -16,6 +18,21 @@ namespace {
 // A whole zip read from a stream is held in memory; beyond this it is
 // surely not a presentation.
 constexpr std::size_t kMaxArchiveSize = std::size_t(4) << 30;
+
+// Parts of real presentations deflate at most some 40 to 1. An entry that
+// claims far more, and is large, is a zip bomb: it is refused before anything
+// is inflated. Small entries may compress as well as they like.
+constexpr std::uint64_t kMaxInflationRatio = 100;
+constexpr std::uint64_t kSmallEntrySize = std::uint64_t(16) << 20;
+
+// What all entries together may inflate to: bounds the work of reading every
+// part once, however many entries there are.
+constexpr std::uint64_t kMaxTotalSize = std::uint64_t(4) << 30;
+
+// As many entries as a zip holds without its 64-bit extension; presentations
+// have some thousands at most. Each part that is read costs a DOM document,
+// so this also bounds the memory that a package of tiny parts can take.
+constexpr zip_int64_t kMaxEntries = 65535;
 
 std::string libzipText(int code) {
     zip_error_t error;
@@ -72,21 +89,6 @@ ZipPhysicalPackage::ZipPhysicalPackage(InputStream& in) {
 
 ZipPhysicalPackage::ZipPhysicalPackage(OutputStream& out, bool update) : output_(&out) {
     if (update) throw Exception("a zip package on a stream can only be written new, not updated");
-    zip_error_t error;
-    zip_error_init(&error);
-    memoryZip_ = zip_source_buffer_create(nullptr, 0, 0, &error);
-    if (!memoryZip_) throw Exception("cannot create a zip archive: " + libzipText(&error));
-    archive_ = zip_open_from_source(memoryZip_, ZIP_TRUNCATE, &error);
-    if (!archive_) {
-        zip_source_free(memoryZip_);
-        memoryZip_ = nullptr;
-        std::string reason = libzipText(&error);
-        zip_error_fini(&error);
-        throw Exception("cannot create a zip archive: " + reason);
-    }
-    zip_error_fini(&error);
-    // The archive frees its source at close; we still need it to copy the bytes out.
-    zip_source_keep(memoryZip_);
     writable_ = true;
 }
 
@@ -104,15 +106,13 @@ ZipPhysicalPackage::ZipPhysicalPackage(std::u16string const& path, bool update) 
         writable_ = true;
         indexOrDiscard();
     } else {
-        archive_ = zip_open(native.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &code);
-        if (!archive_) throw Exception("cannot create the zip file " + native + ": " + libzipText(code));
         writable_ = true;
     }
+    path_ = native;
 }
 
 ZipPhysicalPackage::~ZipPhysicalPackage() {
     if (archive_) zip_discard(archive_);
-    if (memoryZip_) zip_source_free(memoryZip_);
 }
 
 // A refused archive throws from the constructor, where the destructor won't
@@ -129,7 +129,11 @@ void ZipPhysicalPackage::indexOrDiscard() {
 
 void ZipPhysicalPackage::indexEntries() {
     zip_int64_t count = zip_get_num_entries(archive_, 0);
+    if (count > kMaxEntries)
+        refuseOpen("it has " + std::to_string(count) + " entries, more than the limit of " +
+                   std::to_string(kMaxEntries));
     std::unordered_map<std::string, std::string> byKey;
+    std::uint64_t total = 0;
     for (zip_int64_t i = 0; i < count; ++i) {
         zip_stat_t st;
         zip_stat_init(&st);
@@ -143,6 +147,14 @@ void ZipPhysicalPackage::indexEntries() {
         if ((st.valid & ZIP_STAT_SIZE) && st.size > kMaxItemSize)
             refuseOpen("the entry \"" + name + "\" declares " + std::to_string(st.size) +
                        " bytes, more than the limit of " + std::to_string(kMaxItemSize));
+        if ((st.valid & ZIP_STAT_SIZE) && (st.valid & ZIP_STAT_COMP_SIZE) && st.size > kSmallEntrySize &&
+            st.size / kMaxInflationRatio > st.comp_size)
+            refuseOpen("the entry \"" + name + "\" inflates from " + std::to_string(st.comp_size) + " to " +
+                       std::to_string(st.size) + " bytes, more than " + std::to_string(kMaxInflationRatio) +
+                       " times: a zip bomb");
+        if (st.valid & ZIP_STAT_SIZE) total += st.size;
+        if (total > kMaxTotalSize)
+            refuseOpen("the entries declare more than " + std::to_string(kMaxTotalSize) + " bytes in all");
         std::u16string wide = detail::fromUtf8(name);
         auto inserted = byKey.emplace(detail::partKey(wide), name);
         if (!inserted.second)
@@ -165,7 +177,9 @@ std::shared_ptr<std::string const> ZipPhysicalPackage::readItem(std::u16string c
     zip_file_t* file = zip_fopen_index(archive_, found->second, 0);
     if (!file) throw Exception("cannot read the zip entry \"" + utf8 + "\": " + zip_strerror(archive_));
     auto bytes = std::make_shared<std::string>();
-    bytes->reserve(limit);
+    // The declared size is only a claim; growing past the first chunk of it
+    // costs little, reserving a crafted gigabyte up front would not.
+    bytes->reserve(std::min<std::size_t>(limit, std::size_t(64) << 20));
     char buffer[64 * 1024];
     for (;;) {
         zip_int64_t n = zip_fread(file, buffer, sizeof buffer);
@@ -189,7 +203,7 @@ std::shared_ptr<std::string const> ZipPhysicalPackage::readItem(std::u16string c
 
 void ZipPhysicalPackage::writeItem(std::u16string const& name, std::shared_ptr<std::string const> content,
                                    bool compress) {
-    if (!writable_ || !archive_) throw Exception("the zip package is not open for writing");
+    if (!writable_ || committed_) throw Exception("the zip package is not open for writing");
     std::string problem = detail::itemNameProblem(detail::toUtf8(name));
     if (!problem.empty())
         throw Exception("cannot write the zip entry \"" + detail::toUtf8(name) + "\": " + problem);
@@ -204,43 +218,24 @@ void ZipPhysicalPackage::writeItem(std::u16string const& name, std::shared_ptr<s
 }
 
 void ZipPhysicalPackage::commit() {
-    if (!writable_ || !archive_) throw Exception("the zip package is not open for writing");
-    static std::time_t const entryTime = fixedEntryTime();
-    for (auto const& item : pending_) {
-        std::string name = detail::toUtf8(item.name);
-        zip_source_t* source = zip_source_buffer(archive_, item.content->data(), item.content->size(), 0);
-        if (!source) throw Exception("cannot add the zip entry \"" + name + "\": " + zip_strerror(archive_));
-        zip_int64_t index = zip_file_add(archive_, name.c_str(), source, ZIP_FL_OVERWRITE | ZIP_FL_ENC_UTF_8);
-        if (index < 0) {
-            zip_source_free(source);
-            throw Exception("cannot add the zip entry \"" + name + "\": " + zip_strerror(archive_));
-        }
-        auto at = static_cast<zip_uint64_t>(index);
-        if (zip_set_file_compression(archive_, at, item.compress ? ZIP_CM_DEFLATE : ZIP_CM_STORE, 0) != 0 ||
-            zip_file_set_mtime(archive_, at, entryTime, 0) != 0)
-            throw Exception("cannot add the zip entry \"" + name + "\": " + zip_strerror(archive_));
-    }
-    zip* archive = archive_;
-    archive_ = nullptr;
-    if (zip_close(archive) != 0) {
-        std::string reason = zip_strerror(archive);
-        zip_discard(archive);
-        throw Exception("cannot write the zip archive: " + reason);
+    if (!writable_ || committed_) throw Exception("the zip package is not open for writing");
+    committed_ = true;
+    // An update that changes nothing leaves the file alone.
+    if (!(archive_ && pending_.empty())) {
+        static std::time_t const entryTime = fixedEntryTime();
+        std::vector<NewItem> items;
+        items.reserve(pending_.size());
+        for (auto const& item : pending_)
+            items.push_back(NewItem{detail::toUtf8(item.name), item.content, item.compress});
+        if (output_)
+            writeZipArchive(nullptr, items, entryTime, *output_);
+        else
+            writeZipFile(path_, archive_, items, entryTime);
     }
     pending_.clear();
     pendingIndex_.clear();
-    if (output_) {
-        if (zip_source_open(memoryZip_) != 0)
-            throw Exception("cannot write the zip archive: " +
-                            std::string(zip_error_strerror(zip_source_error(memoryZip_))));
-        char buffer[64 * 1024];
-        zip_int64_t n;
-        while ((n = zip_source_read(memoryZip_, buffer, sizeof buffer)) > 0)
-            output_->write(buffer, static_cast<std::size_t>(n));
-        zip_source_close(memoryZip_);
-        if (n < 0) throw Exception("cannot write the zip archive: reading the built archive failed");
-        output_->close();
-    }
+    if (archive_) zip_discard(archive_);
+    archive_ = nullptr;
 }
 
 }  // namespace zippackage

@@ -10,7 +10,6 @@
 #include "platform/opc/streams.h"
 
 struct zip;
-struct zip_source;
 
 namespace opc {
 namespace zippackage {
@@ -18,7 +17,8 @@ namespace zippackage {
 // Reading takes the entry list in at construction and refuses archives that
 // are corrupt or hostile (names leaving the package, names equal but for
 // case, sizes above kMaxItemSize). Writing buffers every item in memory and
-// hands all of them to libzip once, at commit.
+// writes the archive at commit (see zip_writer.h): entries left unchanged are
+// copied as they are stored, without inflating them again.
 class ZipPhysicalPackage : public interfaces::IPhysicalPackage {
 public:
     // Reads the zip held by the stream.
@@ -53,9 +53,10 @@ private:
     };
 
     zip* archive_ = nullptr;
-    std::string input_;                // the bytes of a zip read from a stream
-    OutputStream* output_ = nullptr;   // where a zip built in memory goes
-    zip_source* memoryZip_ = nullptr;  // the zip built in memory
+    std::string input_;               // the bytes of a zip read from a stream
+    OutputStream* output_ = nullptr;  // where a zip written to a stream goes
+    std::string path_;                // or the file written at commit
+    bool committed_ = false;
     bool readable_ = false;
     bool writable_ = false;
     std::vector<std::u16string> names_;

@@ -180,3 +180,19 @@ TEST(OpcXml, KeepsQualifiedNamesAndWhitespaceAndWritesStandaloneUtf8) {
         << written;
     EXPECT_THROW(p.parse("<a><b></a>"), opc::Exception);
 }
+
+TEST(OpcXml, RefusesElementsNestedDeeperThanAnyPart) {
+    auto nested = [](int depth) {
+        std::string xml;
+        for (int i = 0; i < depth; ++i) xml += "<g>";
+        xml += "text<!-- c -->";
+        for (int i = 0; i < depth; ++i) xml += "</g>";
+        return xml + "<!-- after the root -->";
+    };
+    Parser p;
+    EXPECT_EQ(p.parse("<a><b/><c><d/></c>x</a>"), u"x");
+    EXPECT_EQ(p.parse(nested(256)), u"text");
+    EXPECT_THROW(p.parse(nested(257)), opc::Exception);
+    // Deep once, then shallow again for long: only the depth counts.
+    EXPECT_EQ(p.parse("<r>" + nested(200) + nested(200) + "</r>"), u"texttext");
+}
