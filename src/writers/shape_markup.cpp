@@ -139,29 +139,6 @@ void takeOverNonVisual(DOMElement* nvPicPr, DOMElement* oldNonVisual, TemplateSl
     nvPicPr->appendChild(nvPr ? nvPr : slide.document->createElement(xml::kNvPr));
 }
 
-// The a:xfrm that gives the box of the shape: its own, or for a placeholder
-// that inherits, the master's shape of the same id.
-DOMElement const* boxTransform(TemplateSlide const& slide, DOMElement const* spPr, DOMElement const* nvSpPr) {
-    if (DOMElement const* xfrm = ElementWriter::findChildElement(spPr, xml::kXfrm)) return xfrm;
-    if (!slide.layout || !slide.layout->master || !nvSpPr) return nullptr;
-    // Layout and master shapes share ids only by custom, not by rule: a
-    // layout whose ids differ finds no box and inherits its geometry.
-    DOMElement const* cNvPr = ElementWriter::findChildElement(nvSpPr, xml::kCNvPr);
-    u16string const id = cNvPr ? u16string(cNvPr->getAttribute(xml::kId)) : u16string();
-    if (id.empty()) return nullptr;
-    auto const& byId = slide.layout->master->shapeElementsById;
-    auto const it = byId.find(id);
-    if (it == byId.end() || !it->second) return nullptr;
-    return ElementWriter::findChildElement(ElementWriter::findChildElement(it->second, xml::kSpPr),
-                                           xml::kXfrm);
-}
-
-// Appends to `pic` the p:spPr of a picture fitted into the box of the given
-// shape properties: the image is scaled down to fit with its aspect kept and
-// centred in the box, but never scaled up; a size given by script code is
-// fitted too, a position given by script code wins over the centring.
-// Without a box the p:spPr stays empty and the placeholder's geometry is
-// inherited.
 void fitPicture(DOMElement* pic, TemplateSlide const& slide, DOMElement const* spPr, DOMElement const* nvSpPr,
                 ShapeImpl const& shape, double width, double height) {
     DOMElement* properties = appendNew(pic, xml::kSpPr);
@@ -209,6 +186,27 @@ void fitPicture(DOMElement* pic, TemplateSlide const& slide, DOMElement const* s
 
 }  // namespace
 
+DOMElement const* boxTransform(TemplateSlide const& slide, DOMElement const* spPr, DOMElement const* nvSpPr) {
+    if (DOMElement const* xfrm = ElementWriter::findChildElement(spPr, xml::kXfrm)) return xfrm;
+    if (!slide.layout || !slide.layout->master || !nvSpPr) return nullptr;
+    // Layout and master shapes share ids only by custom, not by rule: a
+    // layout whose ids differ finds no box and inherits its geometry.
+    DOMElement const* cNvPr = ElementWriter::findChildElement(nvSpPr, xml::kCNvPr);
+    u16string const id = cNvPr ? u16string(cNvPr->getAttribute(xml::kId)) : u16string();
+    if (id.empty()) return nullptr;
+    auto const& byId = slide.layout->master->shapeElementsById;
+    auto const it = byId.find(id);
+    if (it == byId.end() || !it->second) return nullptr;
+    return ElementWriter::findChildElement(ElementWriter::findChildElement(it->second, xml::kSpPr),
+                                           xml::kXfrm);
+}
+
+// Appends to `pic` the p:spPr of a picture fitted into the box of the given
+// shape properties: the image is scaled down to fit with its aspect kept and
+// centred in the box, but never scaled up; a size given by script code is
+// fitted too, a position given by script code wins over the centring.
+// Without a box the p:spPr stays empty and the placeholder's geometry is
+// inherited.
 void reserveShapeIds(TemplateSlide& slide) {
     DOMElement const* tree = PresentationModel::getShapeTree(slide.document);
     if (!tree) return;

@@ -30,6 +30,11 @@ extern char16_t const* const kDefaultShapeExtent;
 // shapes it gets. The counter never goes down.
 void reserveShapeIds(TemplateSlide& slide);
 
+// The a:xfrm that gives the box of a shape: its own, or for a placeholder
+// that inherits, the master's shape of the same id; null if neither has one.
+xercesc::DOMElement const* boxTransform(TemplateSlide const& slide, xercesc::DOMElement const* spPr,
+                                        xercesc::DOMElement const* nvSpPr);
+
 // A new p:sp with an empty text body, appended to the slide's p:spTree; it
 // takes the slide's next shape id. Null if the document has no p:spTree.
 xercesc::DOMElement* createTextBoxShape(TemplateSlide& slide, ShapeImpl const& shape);

@@ -10,6 +10,7 @@
 #include "template/presentation_model.h"
 #include "template/template_records.h"
 #include "writers/element_writer.h"
+#include "writers/shape_markup.h"
 #include "writers/xml_names.h"
 
 namespace deckforge {
@@ -118,17 +119,7 @@ void appendGridColumns(DOMElement* frame, std::uint64_t nCols, double width) {
 // invalid, and readers draw the table as a sliver.
 DOMElement const* inheritedTransform(TemplateSlide const& slide, DOMElement const* layoutSpPr,
                                      DOMElement const* layoutNvSpPr) {
-    if (!layoutSpPr) return nullptr;
-    if (DOMElement const* own = ElementWriter::findChildElement(layoutSpPr, xml::kXfrm)) return own;
-    if (!slide.layout || !slide.layout->master || !layoutNvSpPr) return nullptr;
-    DOMElement const* cNvPr = ElementWriter::findChildElement(layoutNvSpPr, xml::kCNvPr);
-    u16string const id = cNvPr ? u16string(cNvPr->getAttribute(xml::kId)) : u16string();
-    if (id.empty()) return nullptr;
-    auto const& byId = slide.layout->master->shapeElementsById;
-    auto const it = byId.find(id);
-    if (it == byId.end() || !it->second) return nullptr;
-    return ElementWriter::findChildElement(ElementWriter::findChildElement(it->second, xml::kSpPr),
-                                           xml::kXfrm);
+    return layoutSpPr ? boxTransform(slide, layoutSpPr, layoutNvSpPr) : nullptr;
 }
 
 // Gives the frame the box of `source` (an a:xfrm or p:xfrm), or the one the
