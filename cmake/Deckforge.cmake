@@ -25,6 +25,9 @@ function(deckforge_precompile target kind)
   endif()
 endfunction()
 
+# deckforge_library(<name> DEPS <targets...>)
+# One static library per subsystem folder, made of every .cpp in that folder.
+# Headers are included as "<folder>/<file>.h" from src/.
 function(deckforge_library name)
   cmake_parse_arguments(ARG "" "" "DEPS" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)

@@ -195,6 +195,7 @@ void ZipWriter::writeHeaders(Header const& h) {
     le16(local, 0);  // no extra field
     local += name;
 
+    central_.reserve(central_.size() + kCentralHeaderSize + name.size());
     le32(central_, 0x02014b50);
     le16(central_, (std::uint16_t(h.attributes.system) << 8) | kMadeByVersion);
     central_.append(local, 4, 26);  // from the version needed to the extra field's length, as above

@@ -163,6 +163,22 @@ Hostile const kHostile[] = {
          }
          return zipOf(e, dir);
      }},
+    // A template, so that the output is copied part by part along the
+    // relationships, with a cycle among them: presentation, theme,
+    // presentation.
+    {"RelationshipCycleInACopiedTemplate", "",
+     [](Entries e, fs::path const& dir) {
+         auto& types = entry(e, "[Content_Types].xml");
+         types.replace(types.find("presentation.main+xml"), 21, "template.main+xml");
+         e.emplace_back(
+             "ppt/theme/_rels/theme1.xml.rels",
+             "<Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/relationships\">"
+             "<Relationship Id=\"rId1\" Type=\"" +
+                 kRel +
+                 "officeDocument\" Target=\"../presentation.xml\"/>"
+                 "</Relationships>");
+         return zipOf(e, dir);
+     }},
     // Read as a master, the presentation part has no layouts; the slides'
     // layouts then have no master that the presentation knows.
     {"PresentationIsItsOwnMaster", kInvalid,
