@@ -1,7 +1,7 @@
 #include "binding/accessors.h"
 #include "binding/host_content.h"
 #include "binding/ppt_classes.h"
-#include "binding/table_properties.h"
+#include "binding/style_properties.h"
 #include "nodes/table.h"
 #include "platform/msg_ids.h"
 

@@ -1,6 +1,6 @@
 #include "binding/accessors.h"
 #include "binding/ppt_classes.h"
-#include "binding/table_properties.h"
+#include "binding/style_properties.h"
 #include "nodes/table_row.h"
 
 namespace deckforge {

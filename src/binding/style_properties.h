@@ -55,13 +55,10 @@ Setter text(void (M::*set)(u16string const&), void (M::*unset)()) {
 
 }  // namespace style
 
-// Bold, Font, ComplexScriptFont, FontColor, FontSize, Italic, Strike,
-// Subscript, Superscript, Underline, in this order.
+// Font, ComplexScriptFont, FontColor, FontSize, in this order: all that a
+// table and its rows offer of a run's properties.
 template <class T>
-void addCharacterStyleProperties(ClassDescription& cls) {
-    cls.addProperty("Bold", "logical or empty", style::value<T>(&T::getBold, &Bold::getValue),
-                    style::logical<T>(&T::setBold, &T::unsetBold),
-                    "Bold characters; [] to take the parent's.");
+void addFontProperties(ClassDescription& cls) {
     cls.addProperty("Font", "text or empty", style::value<T>(&T::getFontFamily, &FontFamily::getFont),
                     style::text<T>(&T::setFont, &T::unsetFont), "The Latin font.");
     cls.addProperty("ComplexScriptFont", "text or empty",
@@ -73,6 +70,16 @@ void addCharacterStyleProperties(ClassDescription& cls) {
                     "A colour name or \"#\" and six hex digits.");
     cls.addProperty("FontSize", "text or empty", style::value<T>(&T::getFontSize, &FontSize::getValue),
                     style::text<T>(&T::setFontSize, &T::unsetFontSize), "A length such as \"12pt\".");
+}
+
+// Bold, Font, ComplexScriptFont, FontColor, FontSize, Italic, Strike,
+// Subscript, Superscript, Underline, in this order.
+template <class T>
+void addCharacterStyleProperties(ClassDescription& cls) {
+    cls.addProperty("Bold", "logical or empty", style::value<T>(&T::getBold, &Bold::getValue),
+                    style::logical<T>(&T::setBold, &T::unsetBold),
+                    "Bold characters; [] to take the parent's.");
+    addFontProperties<T>(cls);
     cls.addProperty("Italic", "logical or empty", style::value<T>(&T::getItalic, &Italic::getValue),
                     style::logical<T>(&T::setItalic, &T::unsetItalic));
     cls.addProperty("Strike", "text or empty", style::value<T>(&T::getStrike, &Strike::getValue),
@@ -93,13 +100,19 @@ void addHAlignProperty(ClassDescription& cls) {
                     "left, right, center, justified, justifiedLow, distributed or thaiDistributed.");
 }
 
-// BackgroundColor and VAlign, in this order.
+// BackgroundColor alone: the fill of a box, or of a row's cells.
 template <class T>
-void addBoxStyleProperties(ClassDescription& cls) {
+void addBackgroundColorProperty(ClassDescription& cls) {
     cls.addProperty("BackgroundColor", "text or empty",
                     style::value<T>(&T::getBackgroundColor, &BackgroundColor::getValue),
                     style::text<T>(&T::setBackgroundColor, &T::unsetBackgroundColor),
                     "A colour name or \"#\" and six hex digits.");
+}
+
+// BackgroundColor and VAlign, in this order.
+template <class T>
+void addBoxStyleProperties(ClassDescription& cls) {
+    addBackgroundColorProperty<T>(cls);
     cls.addProperty("VAlign", "text or empty", style::value<T>(&T::getVAlign, &VAlign::getValue),
                     style::text<T>(&T::setVAlign, &T::unsetVAlign),
                     "top, middle, bottom, topCentered, middleCentered or bottomCentered.");

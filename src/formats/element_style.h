@@ -45,9 +45,52 @@ public:
     static void setUnderlineStyle(ElementImpl& element, u16string const& style);
 };
 
+// Font, ComplexScriptFont, FontColor and FontSize: all that a table and its
+// rows offer of a run's properties, and part of CharacterStyle.
+template <class Derived>
+class FontStyle {
+public:
+    boost::shared_ptr<FontFamily> getFontFamily() const {
+        return ElementStyle::get<FontFamily>(el(), FormatTypeFontFamily);
+    }
+    void setFont(u16string const& font) { ElementStyle::setFont(el(), font); }
+    void setComplexScriptFont(u16string const& font) { ElementStyle::setComplexScriptFont(el(), font); }
+    void unsetFont() { ElementStyle::unsetFont(el()); }
+    void unsetComplexScriptFont() { ElementStyle::unsetComplexScriptFont(el()); }
+
+    boost::shared_ptr<FontColor> getFontColor() const {
+        return ElementStyle::get<FontColor>(el(), FormatTypeFontColor);
+    }
+    void setFontColor(u16string const& value) { ElementStyle::set<FontColor>(el(), value); }
+    void unsetFontColor() { el().unsetFormat(FormatTypeFontColor); }
+
+    boost::shared_ptr<FontSize> getFontSize() const {
+        return ElementStyle::get<FontSize>(el(), FormatTypeFontSize);
+    }
+    void setFontSize(u16string const& value) { ElementStyle::set<FontSize>(el(), value); }
+    void unsetFontSize() { el().unsetFormat(FormatTypeFontSize); }
+
+private:
+    ElementImpl& el() const { return *static_cast<Derived const*>(this)->elementImpl(); }
+};
+
+// BackgroundColor: the fill of a box, or of the cells of a row.
+template <class Derived>
+class FillStyle {
+public:
+    boost::shared_ptr<BackgroundColor> getBackgroundColor() const {
+        return ElementStyle::get<BackgroundColor>(el(), FormatTypeBackgroundColor);
+    }
+    void setBackgroundColor(u16string const& value) { ElementStyle::set<BackgroundColor>(el(), value); }
+    void unsetBackgroundColor() { el().unsetFormat(FormatTypeBackgroundColor); }
+
+private:
+    ElementImpl& el() const { return *static_cast<Derived const*>(this)->elementImpl(); }
+};
+
 // The character properties of Text, Paragraph and the boxes.
 template <class Derived>
-class CharacterStyle {
+class CharacterStyle : public FontStyle<Derived> {
 public:
     boost::shared_ptr<Bold> getBold() const { return ElementStyle::get<Bold>(el(), FormatTypeBold); }
     void setBold(bool value) { ElementStyle::set<Bold>(el(), value); }
@@ -68,26 +111,6 @@ public:
     }
     void setSuperscript(bool value) { ElementStyle::set<Superscript>(el(), value); }
     void unsetSuperscript() { el().unsetFormat(FormatTypeSuperscript); }
-
-    boost::shared_ptr<FontColor> getFontColor() const {
-        return ElementStyle::get<FontColor>(el(), FormatTypeFontColor);
-    }
-    void setFontColor(u16string const& value) { ElementStyle::set<FontColor>(el(), value); }
-    void unsetFontColor() { el().unsetFormat(FormatTypeFontColor); }
-
-    boost::shared_ptr<FontSize> getFontSize() const {
-        return ElementStyle::get<FontSize>(el(), FormatTypeFontSize);
-    }
-    void setFontSize(u16string const& value) { ElementStyle::set<FontSize>(el(), value); }
-    void unsetFontSize() { el().unsetFormat(FormatTypeFontSize); }
-
-    boost::shared_ptr<FontFamily> getFontFamily() const {
-        return ElementStyle::get<FontFamily>(el(), FormatTypeFontFamily);
-    }
-    void setFont(u16string const& font) { ElementStyle::setFont(el(), font); }
-    void setComplexScriptFont(u16string const& font) { ElementStyle::setComplexScriptFont(el(), font); }
-    void unsetFont() { ElementStyle::unsetFont(el()); }
-    void unsetComplexScriptFont() { ElementStyle::unsetComplexScriptFont(el()); }
 
     boost::shared_ptr<Strike> getStrike() const { return ElementStyle::get<Strike>(el(), FormatTypeStrike); }
     void setStrikeStyle(u16string const& style) { ElementStyle::setStrikeStyle(el(), style); }
@@ -117,14 +140,8 @@ private:
 
 // The fill and the anchor of a box's text.
 template <class Derived>
-class BoxStyle {
+class BoxStyle : public FillStyle<Derived> {
 public:
-    boost::shared_ptr<BackgroundColor> getBackgroundColor() const {
-        return ElementStyle::get<BackgroundColor>(el(), FormatTypeBackgroundColor);
-    }
-    void setBackgroundColor(u16string const& value) { ElementStyle::set<BackgroundColor>(el(), value); }
-    void unsetBackgroundColor() { el().unsetFormat(FormatTypeBackgroundColor); }
-
     boost::shared_ptr<VAlign> getVAlign() const { return ElementStyle::get<VAlign>(el(), FormatTypeVAlign); }
     void setVAlign(u16string const& value) { ElementStyle::set<VAlign>(el(), value); }
     void unsetVAlign() { el().unsetFormat(FormatTypeVAlign); }

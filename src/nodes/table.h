@@ -11,7 +11,7 @@
 #include "nodes/col_spec.h"
 #include "nodes/shape.h"
 #include "nodes/table_row.h"
-#include "nodes/table_style.h"
+#include "formats/element_style.h"
 #include "platform/hv_content.h"
 
 namespace deckforge {

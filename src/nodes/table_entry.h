@@ -7,7 +7,7 @@
 
 #include "engine/ppt_node.h"
 #include "nodes/paragraph.h"
-#include "nodes/table_style.h"
+#include "formats/element_style.h"
 
 namespace deckforge {
 namespace ppt {

@@ -4,7 +4,7 @@
 
 #include "engine/ppt_node.h"
 #include "nodes/table_entry.h"
-#include "nodes/table_style.h"
+#include "formats/element_style.h"
 
 namespace deckforge {
 namespace ppt {

@@ -89,8 +89,8 @@ TEST(Table, ClonesShareColSpecsAndOwnTheirRows) {
     Table table(2);
     table.append(rowOf({u"a", u"b"}));
     table.setStyleName(u"Medium Style 2");
-    auto spec = boost::make_shared<ColSpec>(u"1in");
-    table.setColSpecs({spec, boost::make_shared<ColSpec>()});
+    auto shared = boost::make_shared<ColSpec>(u"1in");
+    table.setColSpecs({shared, boost::make_shared<ColSpec>()});
 
     auto copy = Table::cast(table.clone());
     EXPECT_EQ(u"Medium Style 2", copy->getStyleName().getValue());
@@ -117,8 +117,8 @@ TEST(Table, ReplaceOnASlideTakesThePlaceAndIdentityOfTheOldTable) {
     given.append(rowOf({u"x", u"y"}));
     given.setY(u"2in");
     given.setFontSize(u"9pt");
-    auto spec = boost::make_shared<ColSpec>();
-    given.setColSpecs({spec});
+    auto shared = boost::make_shared<ColSpec>();
+    given.setColSpecs({shared});
 
     Table result = old->replace(given);
     EXPECT_EQ(result.getImpl(), slide.getChildren().at(1)->getImpl());
@@ -129,7 +129,7 @@ TEST(Table, ReplaceOnASlideTakesThePlaceAndIdentityOfTheOldTable) {
     EXPECT_EQ(2 * 914400, result.getY().getValue().getEMUNumber());
     EXPECT_EQ(u"9pt", result.getFontSize()->getValue());
     EXPECT_FALSE(result.getStyleName().isSet());
-    EXPECT_EQ(spec.get(), result.getColSpecs().at(0).get());
+    EXPECT_EQ(shared.get(), result.getColSpecs().at(0).get());
     EXPECT_EQ(u"y", textOf(result.entry(0, 1)));
     EXPECT_NE(given.row(0)->getImpl(), result.row(0)->getImpl());
 
@@ -152,7 +152,7 @@ TEST(Table, ReplaceOnASlideTakesThePlaceAndIdentityOfTheOldTable) {
     given.setStyleName(u"style");
     Table copy = TablePlaceholder::cast(placeholder)->replace(given);
     EXPECT_EQ(u"style", copy.getStyleName().getValue());
-    EXPECT_EQ(spec.get(), copy.getColSpecs().at(0).get());
+    EXPECT_EQ(shared.get(), copy.getColSpecs().at(0).get());
     EXPECT_NE(given.row(0)->getImpl(), copy.row(0)->getImpl());
 }
 

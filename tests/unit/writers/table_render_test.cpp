@@ -76,7 +76,7 @@ Table at(Table table, u16string const& y) {
     return table;
 }
 
-boost::shared_ptr<ColSpec> spec(u16string const& width = u"") {
+boost::shared_ptr<ColSpec> columnSpec(u16string const& width = u"") {
     return width.empty() ? boost::make_shared<ColSpec>() : boost::make_shared<ColSpec>(width);
 }
 
@@ -99,7 +99,7 @@ TEST_F(TableRendering, FramesGridsStylesSpansAndCellFormats) {
         Table tall = table("Tall", {{u"t1", u"t2", u"t3"}, {u"t4"}, {u"t5"}, {u"t6"}});
         tall.setHeight(u"2in");
         tall.setWidth(u"3000000emus");
-        tall.setColSpecs({spec(), spec(u"600000emus")});
+        tall.setColSpecs({columnSpec(), columnSpec(u"600000emus")});
         tall.setStyleName(u"{2620452E-346E-4BD8-AF7F-B6E0B8F9AD9E}");
         auto none = boost::make_shared<TableStyleOptions>();
         none->setFirstRow(false);
@@ -120,7 +120,8 @@ TEST_F(TableRendering, FramesGridsStylesSpansAndCellFormats) {
 
         // Every column given: the grid is theirs. An entry's width only widens.
         Table widths = table("Widths", {{u"w1", u"w2", u"w3"}, {u"w4", u"w5", u"w6"}});
-        widths.setColSpecs({spec(u"1000000emus"), spec(u"1000000emus"), spec(u"1000000emus")});
+        widths.setColSpecs(
+            {columnSpec(u"1000000emus"), columnSpec(u"1000000emus"), columnSpec(u"1000000emus")});
         widths.entry(0, 0)->elementImpl()->appendFormat(boost::make_shared<ColWidth>(u"500000emus"));
         widths.entry(1, 1)->elementImpl()->appendFormat(boost::make_shared<ColWidth>(u"2000000emus"));
         blank.add(at(widths, u"4.8in"));
@@ -133,19 +134,19 @@ TEST_F(TableRendering, FramesGridsStylesSpansAndCellFormats) {
         first.append(wide);
         first.append(TableEntry(u"last"));
         span.tableImpl()->insertChild(first.makeInterface(), 0);
-        auto red = spec();
+        auto red = columnSpec();
         red->setBackgroundColor(u"red");
-        span.setColSpecs({spec(), spec(), spec(), red});
+        span.setColSpecs({columnSpec(), columnSpec(), columnSpec(), red});
         second.add(at(span, u"0.3in"));
 
         // Fill and anchor: entry, then row, then column, then table.
         Table layered = table("Layered", {{u"l1", u"l2", u"l3"}, {u"l4", u"l5", u"l6"}});
         layered.tableImpl()->appendFormat(boost::make_shared<BackgroundColor>(u"white"));
         layered.tableImpl()->appendFormat(boost::make_shared<VAlign>(u"bottom"));
-        auto green = spec();
+        auto green = columnSpec();
         green->setBackgroundColor(u"green");
         green->setBold(true);
-        auto centred = spec();
+        auto centred = columnSpec();
         centred->setVAlign(u"middleCentered");
         layered.setColSpecs({green, centred});
         layered.row(0)->setBackgroundColor(u"yellow");
@@ -238,7 +239,7 @@ TEST_F(TableRendering, PlaceholdersOfTheDefaultTemplate) {
             ->replace(table("Given", {{u"h1", u"h2"}, {u"r1", u"r2"}}));
         Slide content = presentation.add(u"Title and Content");
         Table sized = table("", {{u"c1", u"c2", u"c3"}});
-        sized.setColSpecs({spec(u"2in"), spec(u"3in")});
+        sized.setColSpecs({columnSpec(u"2in"), columnSpec(u"3in")});
         ContentPlaceholder::cast(content.find(u"Content").at(0))->replace(sized);
         Slide empty = presentation.add(u"Title and Content");
         ContentPlaceholder::cast(empty.find(u"Content").at(0))->replace(Table(2));
