@@ -2,7 +2,7 @@
 // on the output package that can also store a DOM document into an existing
 // part. The model creates the presentation's slide relationships itself
 // through the OPCPartWriter operations; storing a document is left to the
-// concrete writer (PartDOMWriter), which owns the serializer.
+// concrete writer (PartDOMWriter).
 #pragma once
 
 #include <boost/shared_ptr.hpp>

@@ -7,12 +7,7 @@ namespace ppt {
 
 PartDOMWriter::PartDOMWriter() = default;
 
-PartDOMWriter::PartDOMWriter(boost::shared_ptr<OPCPackage> const& package)
-    : PartDocumentWriter(package), serializer(opc::model::XercesHelper::createWriter()) {}
-
-PartDOMWriter::~PartDOMWriter() {
-    if (serializer) serializer->release();
-}
+PartDOMWriter::PartDOMWriter(boost::shared_ptr<OPCPackage> const& package) : PartDocumentWriter(package) {}
 
 void PartDOMWriter::createDocumentPart(u16string const& name, u16string const& contentType,
                                        xercesc::DOMDocument* document) {
@@ -26,9 +21,8 @@ void PartDOMWriter::writeDocument(u16string const& name, xercesc::DOMDocument* d
 }
 
 void PartDOMWriter::writeTo(opc::model::Part& part, xercesc::DOMDocument* document) {
-    if (!serializer) serializer = opc::model::XercesHelper::createWriter();
     boost::shared_ptr<opc::OutputStream> stream = part.getOutputStream();
-    opc::model::XercesHelper::writeDocumentToStream(serializer, document, *stream);
+    opc::model::XercesHelper::writeDocumentToStream(document, *stream);
     stream->close();
 }
 

@@ -1,24 +1,17 @@
-// Stores DOM documents into parts of the output package, with one serializer
-// for the whole pass. The documents stay their owners'.
+// Stores DOM documents into parts of the output package. The documents stay
+// their owners'.
 #pragma once
 
 #include "template/part_document_writer.h"
-
-XERCES_CPP_NAMESPACE_BEGIN
-class DOMLSSerializer;
-XERCES_CPP_NAMESPACE_END
 
 namespace deckforge {
 namespace ppt {
 
 class PartDOMWriter : public PartDocumentWriter {
 public:
-    // No package, no serializer.
+    // No package.
     PartDOMWriter();
     explicit PartDOMWriter(boost::shared_ptr<OPCPackage> const& package);
-    ~PartDOMWriter() override;
-    PartDOMWriter(PartDOMWriter const&) = delete;
-    PartDOMWriter& operator=(PartDOMWriter const&) = delete;
 
     // A new part holding the document.
     void createDocumentPart(u16string const& name, u16string const& contentType,
@@ -29,8 +22,6 @@ public:
 
 private:
     void writeTo(opc::model::Part& part, xercesc::DOMDocument* document);
-
-    xercesc::DOMLSSerializer* serializer = nullptr;
 };
 
 }  // namespace ppt

@@ -39,11 +39,6 @@ public:
     // stops entity expansion bombs. The caller releases it with release().
     static xercesc::DOMLSParser* createParser();
 
-    // A serializer that writes UTF-8 with an XML declaration, no added
-    // whitespace, and namespace declarations as they stand in the DOM. The
-    // caller releases it with release().
-    static xercesc::DOMLSSerializer* createWriter();
-
     // Parses the whole stream. The document belongs to the parser unless
     // adoptDocument is true. Raises opc::Exception if the text isn't well
     // formed; warnings and recoverable errors are reported in the two texts.
@@ -51,10 +46,12 @@ public:
                                                         bool adoptDocument, std::u16string& errors,
                                                         std::u16string& warnings);
 
-    // Writes a document (or node) to the stream. A document is marked
-    // standalone, as PowerPoint writes its parts. Does not close the stream.
-    static void writeDocumentToStream(xercesc::DOMLSSerializer* serializer, xercesc::DOMNode* document,
-                                      OutputStream& stream);
+    // Writes a document (or node) to the stream as UTF-8, with no added
+    // whitespace and names and namespace declarations as they stand in the
+    // DOM. A document gets an XML declaration that marks it standalone, as
+    // PowerPoint writes its parts. Raises opc::Exception if the text holds a
+    // character XML can't. Does not close the stream.
+    static void writeDocumentToStream(xercesc::DOMNode const* document, OutputStream& stream);
 };
 
 }  // namespace model

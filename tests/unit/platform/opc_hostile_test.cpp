@@ -156,7 +156,8 @@ TEST(OpcXml, KeepsQualifiedNamesAndWhitespaceAndWritesStandaloneUtf8) {
     Parser p;
     std::string xml =
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<p:sld xmlns:p=\"urn:p\" xmlns:a=\"urn:a\"><a:t "
-        "xml:space=\"preserve\">  \xC3\xA9 &amp; &lt; </a:t>\n  <a:br/></p:sld>";
+        "xml:space=\"preserve\">  \xC3\xA9 &amp; &lt; </a:t>\n  <a:br/></p:sld>"
+        "<!-- c --><?pi some data?>";
     MemoryInputStream in(std::make_shared<std::string const>(xml));
     std::u16string errors, warnings;
     auto* document = XercesHelper::readDocumentFromStream(p.parser, in, true, errors, warnings);
@@ -165,19 +166,33 @@ TEST(OpcXml, KeepsQualifiedNamesAndWhitespaceAndWritesStandaloneUtf8) {
     EXPECT_EQ(XercesString(root->getFirstElementChild()->getTextContent()), u"  \u00e9 & < ");
     EXPECT_EQ(root->getElementsByTagName(XercesString(u"a:br"))->getLength(), 1u);
 
-    auto* writer = XercesHelper::createWriter();
     std::ostringstream out;
     StdOStreamAdaptor adaptor(out);
-    XercesHelper::writeDocumentToStream(writer, document, adaptor);
-    writer->release();
-    document->release();
+    XercesHelper::writeDocumentToStream(document, adaptor);
     std::string written = out.str();
     EXPECT_EQ(written.rfind("<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>", 0), 0u)
         << written;
     EXPECT_NE(written.find("xmlns:p=\"urn:p\""), std::string::npos) << written;
-    EXPECT_NE(written.find("\"><a:t xml:space=\"preserve\">  \xC3\xA9 &amp; &lt; </a:t>\n  <a:br/></p:sld>"),
+    EXPECT_NE(written.find("\"><a:t xml:space=\"preserve\">  \xC3\xA9 &amp; &lt; </a:t>\n  <a:br/></p:sld>"
+                           "<!-- c --><?pi some data?>"),
               std::string::npos)
         << written;
+
+    // What the markup escapes comes back from it unchanged.
+    std::u16string const tricky = u"a\"b\tc\nd\re<f>g&h]]>\U0001F600";
+    root->setAttribute(u"v", tricky.c_str());
+    root->appendChild(document->createTextNode(tricky.c_str()));
+    root->appendChild(document->createCDATASection(u"x]]>y"));
+    std::ostringstream again;
+    StdOStreamAdaptor againAdaptor(again);
+    XercesHelper::writeDocumentToStream(document, againAdaptor);
+    MemoryInputStream againIn(std::make_shared<std::string const>(again.str()));
+    auto* reread = XercesHelper::readDocumentFromStream(p.parser, againIn, true, errors, warnings);
+    auto* rereadRoot = reread->getDocumentElement();
+    EXPECT_EQ(XercesString(rereadRoot->getAttribute(u"v")), tricky);
+    EXPECT_EQ(XercesString(rereadRoot->getTextContent()), u"  \u00e9 & < \n  " + tricky + u"x]]>y");
+    reread->release();
+    document->release();
     EXPECT_THROW(p.parse("<a><b></a>"), opc::Exception);
 }
 

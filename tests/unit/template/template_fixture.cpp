@@ -85,16 +85,12 @@ LoadedModel::LoadedModel(std::filesystem::path const& file) {
 }
 
 TestDocumentWriter::TestDocumentWriter(boost::shared_ptr<OPCPackage> const& package)
-    : PartDocumentWriter(package), serializer(opc::model::XercesHelper::createWriter()) {}
-
-TestDocumentWriter::~TestDocumentWriter() {
-    serializer->release();
-}
+    : PartDocumentWriter(package) {}
 
 void TestDocumentWriter::writeDocument(u16string const& partName, xercesc::DOMDocument* document) {
     opc::model::Part part = getPart(partName);
     boost::shared_ptr<opc::OutputStream> out = part.getOutputStream();
-    opc::model::XercesHelper::writeDocumentToStream(serializer, document, *out);
+    opc::model::XercesHelper::writeDocumentToStream(document, *out);
     out->close();
     written.push_back(partName);
 }

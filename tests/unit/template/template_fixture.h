@@ -87,12 +87,8 @@ struct LoadedModel {
 class TestDocumentWriter : public ppt::PartDocumentWriter {
 public:
     explicit TestDocumentWriter(boost::shared_ptr<OPCPackage> const& package);
-    ~TestDocumentWriter() override;
     void writeDocument(u16string const& partName, xercesc::DOMDocument* document) override;
     std::vector<u16string> written;
-
-private:
-    xercesc::DOMLSSerializer* serializer;
 };
 
 xercesc::DOMDocument* parseXml(xercesc::DOMLSParser* parser, std::string const& xml);
