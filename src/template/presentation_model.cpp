@@ -447,10 +447,35 @@ DOMDocument* PresentationModel::deriveSlidePrototype(DOMDocument const* layoutDo
             // footer and slide number placeholders with their text.
         }
     }
+    collectIndentation(document->getDocumentElement(), removals);
     for (DOMNode* node : removals) {
         if (DOMNode* parent = node->getParentNode()) parent->removeChild(node);
     }
     return document;
+}
+
+// Whitespace between elements: a template written by hand or pretty-printed
+// indents its markup, and every slide made from a layout would copy, clone
+// and write that indentation again. Text in an element that holds no
+// elements (a run's a:t) is content and stays, blank or not.
+void PresentationModel::collectIndentation(DOMElement* root, std::vector<DOMNode*>& blanks) {
+    auto blank = [](XMLCh const* text) {
+        for (; text && *text; ++text)
+            if (*text != u' ' && *text != u'\t' && *text != u'\n' && *text != u'\r') return false;
+        return true;
+    };
+    std::vector<DOMElement*> pending{root};
+    while (!pending.empty()) {
+        DOMElement* element = pending.back();
+        pending.pop_back();
+        if (!element || !element->getFirstElementChild()) continue;
+        for (DOMNode* child = element->getFirstChild(); child; child = child->getNextSibling()) {
+            if (child->getNodeType() == DOMNode::ELEMENT_NODE)
+                pending.push_back(static_cast<DOMElement*>(child));
+            else if (child->getNodeType() == DOMNode::TEXT_NODE && blank(child->getNodeValue()))
+                blanks.push_back(child);
+        }
+    }
 }
 
 void PresentationModel::setSlideName(boost::shared_ptr<TemplateSlide> const& slide,
