@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <unordered_map>
 
+#include "platform/opc/deflate.h"
 #include "platform/opc/exception.h"
 #include "platform/opc/text.h"
 #include "platform/opc/xerces_helper.h"
@@ -20,6 +21,8 @@ namespace {
 
 char16_t const kContentTypesItem[] = u"[Content_Types].xml";
 char16_t const kRelationshipsType[] = u"application/vnd.openxmlformats-package.relationships+xml";
+// Smaller parts wait as they are: deflating them saves little.
+constexpr std::size_t kDeflateWhileWaitingFrom = 1024;
 char const kXmlDeclaration[] = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\r\n";
 
 std::u16string lastSegment(std::u16string const& name) {
@@ -215,7 +218,8 @@ struct PartEntry {
     PartName name;
     std::u16string itemName;
     ContentType type;
-    std::shared_ptr<std::string const> content;  // set once new or replaced
+    std::shared_ptr<std::string const> content;       // set once new or replaced
+    std::shared_ptr<DeflatedContent const> deflated;  // or this instead
     bool dirty = false;
     bool compress = true;
     std::size_t sizeHint = 0;
@@ -243,6 +247,7 @@ struct PackageCore {
     ContentTypes types;
     RelationshipSet packageRelationships;
     xercesc::DOMLSParser* parser = nullptr;
+    Deflater deflater;  // for parts that wait deflated
 
     void requireOpen() const {
         if (state == Created) throw Exception("the package is not open");
@@ -469,7 +474,18 @@ public:
         if (closed_) return;
         core_->requireWritable();
         closed_ = true;
-        entry_->content = std::make_shared<std::string const>(std::move(bytes_));
+        // Parts wait in memory until the package closes. A large one waits
+        // deflated, as it will be stored: a deck of thousands of slides
+        // would otherwise hold all their markup at once.
+        if (entry_->compress && bytes_.size() >= kDeflateWhileWaitingFrom &&
+            core_->physical->keepsItemsDeflated()) {
+            entry_->deflated = std::make_shared<DeflatedContent const>(core_->deflater.deflate(
+                bytes_.data(), bytes_.size(), "the part " + toUtf8(entry_->name.toString())));
+            entry_->content.reset();
+        } else {
+            entry_->content = std::make_shared<std::string const>(std::move(bytes_));
+            entry_->deflated.reset();
+        }
         entry_->dirty = true;
     }
 
@@ -500,6 +516,9 @@ ContentType const& Part::getContentType() const {
 boost::shared_ptr<InputStream> Part::getInputStream() const {
     auto& e = entry();
     core_->requireOpen();
+    if (e.deflated)
+        return boost::shared_ptr<InputStream>(new MemoryInputStream(std::make_shared<std::string const>(
+            inflate(*e.deflated, "the part " + toUtf8(e.name.toString())))));
     if (e.content || e.dirty) return boost::shared_ptr<InputStream>(new MemoryInputStream(e.content));
     return boost::shared_ptr<InputStream>(new MemoryInputStream(core_->physical->readItem(e.itemName)));
 }
@@ -596,6 +615,10 @@ void Package::close(bool revert) {
                            true);
     for (auto* entry : core.order) {
         if (!entry->dirty) continue;
+        if (entry->deflated) {
+            physical.writeDeflatedItem(entry->itemName, entry->deflated);
+            continue;
+        }
         auto content = entry->content ? entry->content : std::make_shared<std::string const>();
         physical.writeItem(entry->itemName, content, entry->compress);
     }

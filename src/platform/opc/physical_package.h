@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/opc/deflate.h"
+
 namespace opc {
 namespace interfaces {
 
@@ -21,6 +23,9 @@ public:
 
     virtual bool isReadable() const = 0;  // has items to read
     virtual bool isWritable() const = 0;  // takes writes, completed by commit
+    // Whether items are stored deflated, so that content deflated before it
+    // is written is stored as it stands.
+    virtual bool keepsItemsDeflated() const { return false; }
 
     // Item names as stored ("ppt/slides/slide1.xml"), in stored order.
     // Directories are not items.
@@ -30,6 +35,11 @@ public:
     // reaches the file before commit.
     virtual void writeItem(std::u16string const& name, std::shared_ptr<std::string const> content,
                            bool compress) = 0;
+    // The same for content deflated already. A package that doesn't keep
+    // items deflated takes the inflated bytes.
+    virtual void writeDeflatedItem(std::u16string const& name, std::shared_ptr<DeflatedContent const> content) {
+        writeItem(name, std::make_shared<std::string const>(inflate(*content, "the item")), true);
+    }
     // Writes the buffered items out, in the order in which they were first
     // written, and completes the file.
     virtual void commit() = 0;

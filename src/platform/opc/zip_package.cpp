@@ -203,18 +203,26 @@ std::shared_ptr<std::string const> ZipPhysicalPackage::readItem(std::u16string c
 
 void ZipPhysicalPackage::writeItem(std::u16string const& name, std::shared_ptr<std::string const> content,
                                    bool compress) {
+    pend(Pending{name, std::move(content), compress, nullptr});
+}
+
+void ZipPhysicalPackage::writeDeflatedItem(std::u16string const& name,
+                                           std::shared_ptr<DeflatedContent const> content) {
+    pend(Pending{name, nullptr, true, std::move(content)});
+}
+
+void ZipPhysicalPackage::pend(Pending item) {
     if (!writable_ || committed_) throw Exception("the zip package is not open for writing");
-    std::string problem = detail::itemNameProblem(detail::toUtf8(name));
+    std::string problem = detail::itemNameProblem(detail::toUtf8(item.name));
     if (!problem.empty())
-        throw Exception("cannot write the zip entry \"" + detail::toUtf8(name) + "\": " + problem);
-    auto found = pendingIndex_.find(name);
+        throw Exception("cannot write the zip entry \"" + detail::toUtf8(item.name) + "\": " + problem);
+    auto found = pendingIndex_.find(item.name);
     if (found != pendingIndex_.end()) {
-        pending_[found->second].content = std::move(content);
-        pending_[found->second].compress = compress;
+        pending_[found->second] = std::move(item);
         return;
     }
-    pendingIndex_.emplace(name, pending_.size());
-    pending_.push_back(Pending{name, std::move(content), compress});
+    pendingIndex_.emplace(item.name, pending_.size());
+    pending_.push_back(std::move(item));
 }
 
 void ZipPhysicalPackage::commit() {
@@ -226,7 +234,7 @@ void ZipPhysicalPackage::commit() {
         std::vector<NewItem> items;
         items.reserve(pending_.size());
         for (auto const& item : pending_)
-            items.push_back(NewItem{detail::toUtf8(item.name), item.content, item.compress});
+            items.push_back(NewItem{detail::toUtf8(item.name), item.content, item.compress, item.deflated});
         if (output_)
             writeZipArchive(nullptr, items, entryTime, *output_);
         else

@@ -40,6 +40,8 @@ public:
     std::shared_ptr<std::string const> readItem(std::u16string const& name) override;
     void writeItem(std::u16string const& name, std::shared_ptr<std::string const> content,
                    bool compress) override;
+    void writeDeflatedItem(std::u16string const& name, std::shared_ptr<DeflatedContent const> content) override;
+    bool keepsItemsDeflated() const override { return true; }
     void commit() override;
 
 private:
@@ -50,7 +52,10 @@ private:
         std::u16string name;
         std::shared_ptr<std::string const> content;
         bool compress;
+        std::shared_ptr<DeflatedContent const> deflated;
     };
+    // Queues an item for commit; a later item of the same name replaces it.
+    void pend(Pending item);
 
     zip* archive_ = nullptr;
     std::string input_;               // the bytes of a zip read from a stream

@@ -15,6 +15,8 @@
 #include <zip.h>
 #include <zlib.h>
 
+#include "platform/opc/deflate.h"
+
 #include "platform/opc/exception.h"
 
 namespace opc {
@@ -35,9 +37,8 @@ constexpr std::uint16_t kUtf8NameFlag = 1 << 11;
 constexpr std::uint16_t kStored = 0;
 constexpr std::uint16_t kDeflated = 8;
 // As libzip wrote new entries, so that the output stays as it was: the
-// strongest deflate level (and the flag that says so), made by version 6.3
-// of the format.
-constexpr int kDeflateLevel = Z_BEST_COMPRESSION;
+// flag that says the strongest deflate level was used (it was), made by
+// version 6.3 of the format.
 constexpr std::uint16_t kMaximumDeflateFlag = 1 << 1;
 constexpr std::uint8_t kMadeByVersion = 63;
 
@@ -91,52 +92,32 @@ ZipWriter::ZipWriter(OutputStream& out) : out_(out) {
     buffer_.reserve(kBufferSize);
 }
 
-ZipWriter::~ZipWriter() {
-    if (deflater_) deflateEnd(deflater_.get());
-}
+ZipWriter::~ZipWriter() = default;
 
 void ZipWriter::addEntry(std::string const& name, std::string const& bytes, bool compress, DosTime time,
                          FileAttributes attributes) {
     if (bytes.size() > kMax32)
         throw Exception("cannot write the zip entry " + quoted(name) + ": it holds " +
                         std::to_string(bytes.size()) + " bytes, and 4 GiB or more would need zip64");
-    auto const* in = reinterpret_cast<unsigned char const*>(bytes.data());
-    auto const crc = static_cast<std::uint32_t>(crc32_z(crc32_z(0, nullptr, 0), in, bytes.size()));
-    if (!compress) {
-        writeHeaders(Header{&name, 0, kStored, crc, bytes.size(), bytes.size(), time, attributes});
-        put(bytes.data(), bytes.size());
+    if (compress) {
+        addDeflatedEntry(name, deflater_.deflate(bytes.data(), bytes.size(), "the zip entry " + quoted(name)),
+                         time, attributes);
         return;
     }
-    if (!deflater_) {
-        auto z = std::make_unique<z_stream_s>();
-        // Raw deflate, as zip entries hold it.
-        if (deflateInit2(z.get(), kDeflateLevel, Z_DEFLATED, -MAX_WBITS, 8, Z_DEFAULT_STRATEGY) != Z_OK)
-            throw Exception("cannot write the zip entry " + quoted(name) + ": zlib can't start deflating");
-        deflater_ = std::move(z);
-    } else if (deflateReset(deflater_.get()) != Z_OK) {
-        throw Exception("cannot write the zip entry " + quoted(name) + ": zlib can't restart deflating");
-    }
-    z_stream_s& z = *deflater_;
-    std::size_t const bound = deflateBound(&z, static_cast<uLong>(bytes.size()));
-    if (deflated_.size() < bound) deflated_.resize(bound);
-    z.next_in = const_cast<Bytef*>(in);
-    z.avail_in = static_cast<uInt>(bytes.size());
-    z.next_out = deflated_.data();
-    z.avail_out = static_cast<uInt>(std::min<std::size_t>(deflated_.size(), UINT_MAX));
-    // With deflateBound's room, one call finishes; the loop only guards that.
-    int rc;
-    while ((rc = deflate(&z, Z_FINISH)) == Z_OK) {
-        std::size_t used = deflated_.size() - z.avail_out;
-        deflated_.resize(deflated_.size() * 2);
-        z.next_out = deflated_.data() + used;
-        z.avail_out = static_cast<uInt>(std::min<std::size_t>(deflated_.size() - used, UINT_MAX));
-    }
-    if (rc != Z_STREAM_END)
-        throw Exception("cannot write the zip entry " + quoted(name) + ": deflating failed (zlib " +
-                        std::to_string(rc) + ")");
-    std::size_t const size = static_cast<std::size_t>(z.next_out - deflated_.data());
-    writeHeaders(Header{&name, kMaximumDeflateFlag, kDeflated, crc, size, bytes.size(), time, attributes});
-    put(deflated_.data(), size);
+    auto const* in = reinterpret_cast<unsigned char const*>(bytes.data());
+    auto const crc = static_cast<std::uint32_t>(crc32_z(crc32_z(0, nullptr, 0), in, bytes.size()));
+    writeHeaders(Header{&name, 0, kStored, crc, bytes.size(), bytes.size(), time, attributes});
+    put(bytes.data(), bytes.size());
+}
+
+void ZipWriter::addDeflatedEntry(std::string const& name, DeflatedContent const& content, DosTime time,
+                                 FileAttributes attributes) {
+    if (content.size > kMax32)
+        throw Exception("cannot write the zip entry " + quoted(name) + ": it holds " +
+                        std::to_string(content.size) + " bytes, and 4 GiB or more would need zip64");
+    writeHeaders(Header{&name, kMaximumDeflateFlag, kDeflated, content.crc, content.bytes.size(),
+                        content.size, time, attributes});
+    put(content.bytes.data(), content.bytes.size());
 }
 
 void ZipWriter::beginCopy(CopiedEntry const& entry) {
@@ -379,8 +360,11 @@ void writeZipArchive(zip* source, std::vector<NewItem> const& items, std::time_t
     std::vector<bool> written(items.size(), false);
     auto add = [&](std::size_t i, FileAttributes attributes) {
         static std::string const empty;
-        writer.addEntry(items[i].name, items[i].content ? *items[i].content : empty, items[i].compress,
-                        newTime, attributes);
+        if (items[i].deflated)
+            writer.addDeflatedEntry(items[i].name, *items[i].deflated, newTime, attributes);
+        else
+            writer.addEntry(items[i].name, items[i].content ? *items[i].content : empty, items[i].compress,
+                            newTime, attributes);
         written[i] = true;
     };
 

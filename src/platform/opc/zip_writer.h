@@ -14,10 +14,10 @@
 #include <string>
 #include <vector>
 
+#include "platform/opc/deflate.h"
 #include "platform/opc/streams.h"
 
 struct zip;
-struct z_stream_s;
 
 namespace opc {
 namespace zippackage {
@@ -52,6 +52,9 @@ public:
     // Deflates the bytes into a new entry, or stores them if `compress` is false.
     void addEntry(std::string const& name, std::string const& bytes, bool compress, DosTime time,
                   FileAttributes attributes = FileAttributes());
+    // A new entry from bytes deflated earlier.
+    void addDeflatedEntry(std::string const& name, DeflatedContent const& content, DosTime time,
+                          FileAttributes attributes = FileAttributes());
 
     // An entry whose data is already in its stored form, as copied from
     // another archive: the header from these fields, then exactly
@@ -88,8 +91,7 @@ private:
     void flush();
 
     OutputStream& out_;
-    std::unique_ptr<z_stream_s> deflater_;
-    std::vector<unsigned char> deflated_;  // reused from entry to entry
+    Deflater deflater_;
     std::string buffer_;                   // bytes not yet handed to out_
     std::string central_;                  // the central directory, built as entries go
     std::uint64_t offset_ = 0;             // bytes written so far
@@ -100,11 +102,13 @@ private:
     bool finished_ = false;
 };
 
-// An item with new content, for writeZipArchive.
+// An item with new content, for writeZipArchive: its bytes, or if
+// `deflated` is set, those bytes deflated.
 struct NewItem {
     std::string name;  // UTF-8
     std::shared_ptr<std::string const> content;
     bool compress;
+    std::shared_ptr<DeflatedContent const> deflated;
 };
 
 // Writes the package's zip onto `out` and finishes it. With a `source`

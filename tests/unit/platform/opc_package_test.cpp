@@ -23,8 +23,10 @@ char16_t const kMain[] =
     u"application/vnd.openxmlformats-officedocument.presentationml.presentation.main+xml";
 char16_t const kSlideType[] = u"application/vnd.openxmlformats-officedocument.presentationml.slide+xml";
 
-// A package with a main part, a stored image, and internal and external
-// relationships, written new through a stream.
+std::string const kLargePart = "<p:sld>" + std::string(5000, 'x') + "</p:sld>";
+
+// A package with a main part, a large part, a stored image, and internal
+// and external relationships, written new through a stream.
 void writeSample(std::filesystem::path const& path) {
     std::ofstream file(path, std::ios::binary);
     StdOStreamAdaptor out(file);
@@ -36,6 +38,10 @@ void writeSample(std::filesystem::path const& path) {
     Part image = package.createPart(PartName(u"/ppt/media/image1.png"), ContentType(u"image/png"),
                                     StandardPartInfo(0, 0));
     writePart(image, std::string(1000, '\x89'));
+    // A large part waits deflated until the close, and still reads back.
+    Part large = package.createPart(PartName(u"/ppt/large.xml"), ContentType(u"application/xml"));
+    writePart(large, kLargePart);
+    EXPECT_EQ(readPart(large), kLargePart);
     EXPECT_EQ(package.createInternalRelationship(kOfficeDocument, URI(u"/ppt/presentation.xml"), u"").getID(),
               u"rId1");
     main.createInternalRelationship(kImage, URI(u"/ppt/media/image1.png"), u"rId7");
@@ -74,6 +80,7 @@ TEST(OpcPackage, WrittenPackageReadsBack) {
     Part image = package.getPart(PartName(u"/ppt/media/image1.png"));
     EXPECT_EQ(image.getContentType().toString(), u"image/png");
     EXPECT_EQ(readPart(image), std::string(1000, '\x89'));
+    EXPECT_EQ(readPart(package.getPart(PartName(u"/ppt/large.xml"))), kLargePart);
 
     auto root = package.getRelationships();
     ASSERT_EQ(root.size(), 1u);
