@@ -5,6 +5,8 @@
 #include <string_view>
 
 #include <xercesc/dom/DOM.hpp>
+#include <xercesc/dom/impl/DOMCasts.hpp>
+#include <xercesc/dom/impl/DOMParentNode.hpp>
 
 namespace deckforge {
 namespace ppt {
@@ -380,8 +382,49 @@ void PresentationModel::buildSlideDocument(TemplateSlide& slide) {
     if (slide.document || !slide.fromLayout || !slide.layout || !slide.layout->document) return;
     TemplateLayout& layout = *slide.layout;
     if (!layout.slidePrototype) layout.slidePrototype = deriveSlidePrototype(layout.document);
-    slide.setDocument(static_cast<DOMDocument*>(layout.slidePrototype->cloneNode(true)));
+    slide.setDocument(cloneDocument(layout.slidePrototype));
     indexShapeElements(slide);
+}
+
+// A copy of a document. Xerces' own clone attaches every node with the
+// checks of a DOM insertion (a dozen casts across the library's classes, and
+// a walk up the tree); a slide's copy is made for every slide written, so it
+// attaches nodes the way Xerces' parser does. That is sound here: each copy
+// is new, childless, of the same document, and put where the original was.
+DOMDocument* PresentationModel::cloneDocument(DOMDocument const* source) {
+    auto* copy = static_cast<DOMDocument*>(source->cloneNode(false));
+    std::vector<std::pair<DOMNode const*, DOMNode*>> pending;
+    for (DOMNode const* top = source->getFirstChild(); top; top = top->getNextSibling()) {
+        DOMNode* topCopy = copy->importNode(top, false);
+        pending.emplace_back(top, topCopy);
+        while (!pending.empty()) {
+            auto const from = pending.back();
+            pending.pop_back();
+            DOMNode const* child = from.first->getFirstChild();
+            if (!child) continue;
+            xercesc::DOMParentNode* parent = xercesc::castToParentImpl(from.second);
+            for (; child; child = child->getNextSibling()) {
+                DOMNode* childCopy;
+                if (child->getNodeType() == DOMNode::ELEMENT_NODE) {
+                    DOMElement* element =
+                        copy->createElement(static_cast<DOMElement const*>(child)->getTagName());
+                    xercesc::DOMNamedNodeMap const* attributes = child->getAttributes();
+                    for (XMLSize_t i = 0, n = attributes->getLength(); i < n; ++i) {
+                        DOMNode const* attr = attributes->item(i);
+                        element->setAttribute(attr->getNodeName(), attr->getNodeValue());
+                    }
+                    childCopy = element;
+                } else {
+                    childCopy = copy->importNode(child, false);
+                }
+                parent->appendChildFast(childCopy);
+                if (child->hasChildNodes()) pending.emplace_back(child, childCopy);
+            }
+        }
+        // The document learns of its root element only through its own insert.
+        copy->appendChild(topCopy);
+    }
+    return copy;
 }
 
 void PresentationModel::releaseSlideDocument(TemplateSlide& slide) {
