@@ -43,7 +43,7 @@ test: test-native test-sanitize
 # beside it when LibreOffice is installed. Octave has a `demo` of its own,
 # which the example shadows on purpose.
 demo: build
-	octave --no-gui --norc --no-window-system --eval \
+	octave --no-gui --norc --no-window-system --no-history --eval \
 	  "warning('off', 'Octave:shadowed-function'); addpath('$(abspath $(BUILD))', '$(CURDIR)/examples'); demo;"
 
 # The Octave package: $(BUILD)/deckforge-<version>.tar.gz, for `pkg install`.

@@ -9,7 +9,7 @@ get_filename_component(script_dir ${SCRIPT} DIRECTORY)
 get_filename_component(script_name ${SCRIPT} NAME_WE)
 set(ENV{HOME} ${SCRATCH}/home)
 execute_process(
-  COMMAND ${OCTAVE} --no-gui --norc --no-window-system --eval
+  COMMAND ${OCTAVE} --no-gui --norc --no-window-system --no-history --eval
     "pkg install -local '${TARBALL}'; pkg load deckforge; addpath('${script_dir}'); ${script_name}; disp('installed package: passed');"
   WORKING_DIRECTORY ${SCRATCH}/work
   RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)

@@ -7,7 +7,7 @@ file(REMOVE_RECURSE ${SCRATCH})
 file(MAKE_DIRECTORY ${SCRATCH})
 
 execute_process(
-  COMMAND ${OCTAVE} --no-gui --norc --no-window-system --eval
+  COMMAND ${OCTAVE} --no-gui --norc --no-window-system --no-history --eval
     "warning('off', 'Octave:shadowed-function'); addpath('${BINARY_DIR}', '${EXAMPLES}'); \
      deck = demo('${SCRATCH}', false); \
      p = deckforge.ppt.Presentation(fullfile('${SCRATCH}', 'reread.pptx'), deck); p.open(); \
@@ -48,7 +48,7 @@ message(STATUS "Apache POI read ${count} slides")
 # The deck with every feature: every layout, format, picture kind and table
 # kind. POI must open it and find a text of each kind of content.
 execute_process(
-  COMMAND ${OCTAVE} --no-gui --norc --no-window-system --eval
+  COMMAND ${OCTAVE} --no-gui --norc --no-window-system --no-history --eval
     "addpath('${BINARY_DIR}', '${TESTS_OCTAVE}'); [deck, ~, n] = every_feature_deck('${SCRATCH}'); \
      printf('engine slides: %d\\n', n);"
   RESULT_VARIABLE status OUTPUT_VARIABLE made ERROR_VARIABLE errors)
