@@ -59,6 +59,8 @@ enum class NodeType : std::int32_t {
 using PPTNodePtr = boost::shared_ptr<PPTNode>;
 using PPTNodeList = std::vector<PPTNodePtr>;
 
+class ElementImpl;
+
 class PPTNodeImpl : public PPTObjectImpl {
 public:
     PPTNodeImpl() = default;
@@ -77,6 +79,9 @@ public:
     virtual PPTNodePtr clone() const = 0;
     virtual NodeType getNodeType() const = 0;
     virtual bool isA(NodeType type) const { return getNodeType() == type; }
+    // The node as an element, or null; the writers ask it of every parent
+    // when they look for inherited formats, where a dynamic_cast costs more.
+    virtual ElementImpl const* asElement() const { return nullptr; }
     virtual void setName(u16string const& name) { mName = name; }
 
     // These three refuse a child that has a parent (failedToAppendChild).
@@ -142,6 +147,7 @@ public:
     ElementImpl(ElementImpl const& other) = default;
 
     char const* getFullyQualifiedHobjTypeName() const override;
+    ElementImpl const* asElement() const override { return this; }
 
     Formats const& getStyle() const { return mStyle; }
     void setStyle(Formats const& style) { mStyle = style; }

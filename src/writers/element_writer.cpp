@@ -22,8 +22,7 @@ boost::shared_ptr<Format> ElementWriter::findFormat(ElementImpl const* element, 
     if (element->getNodeType() == NodeType::TableRow) {
         if (auto column = writer->getTableContext()->getCurrentColumnFormats().getFormat(type)) return column;
     }
-    if (auto const* parentElement = dynamic_cast<ElementImpl const*>(element->getParent()))
-        return findFormat(parentElement, type);
+    if (PPTNodeImpl const* parent = element->getParent()) return findFormat(parent->asElement(), type);
     return boost::shared_ptr<Format>();
 }
 
