@@ -1,7 +1,9 @@
 // Writes the classdef files of "deckforge.ppt" from the library's class
 // registry, so that the script classes can't drift from the native ones.
 // Every member is one line into the gateway __deckforge_gw__; overloads are
-// resolved natively.
+// resolved natively. Once a class is in use, the glue puts native functions
+// in place of these lines (octave/glue/native_members.h); they stay for help
+// and for the first calls.
 //
 //   deckforge_classdefs <output folder +deckforge/+ppt>
 #include <filesystem>
@@ -13,6 +15,7 @@
 
 #include "binding/module.h"
 #include "binding/package.h"
+#include "binding/script_members.h"
 
 namespace fs = std::filesystem;
 using namespace deckforge::ppt::mi;
@@ -32,14 +35,6 @@ std::string quote(std::string const& s) {
     std::string q = "'";
     for (char c : s) q += (c == '\'') ? std::string("''") : std::string(1, c);
     return q + "'";
-}
-
-// The nearest superclass of the package, if any; host bases are not classdef
-// classes in Octave, where `handle` stands for them.
-std::string scriptBase(ClassDescription const& cls) {
-    for (auto const& super : cls.superclasses())
-        if (PackageTree::findClass(super)) return super;
-    return {};
 }
 
 std::string signatureLine(std::string const& name, MethodInfo const& m) {
@@ -142,14 +137,6 @@ void writeRootMembers(std::ostream& out) {
            "  end\n\n";
 }
 
-// The class and its package superclasses, nearest first.
-std::vector<ClassDescription const*> lineage(ClassDescription const& cls) {
-    std::vector<ClassDescription const*> chain{&cls};
-    for (std::string base = scriptBase(cls); !base.empty(); base = scriptBase(*chain.back()))
-        chain.push_back(PackageTree::findClass(base));
-    return chain;
-}
-
 // Each class derives from handle directly and carries its bases' members
 // itself: Octave builds an object of a five-level classdef chain in some
 // 60 us, a flat one in 10, and scripts make many small objects. Every member
@@ -158,30 +145,20 @@ std::vector<ClassDescription const*> lineage(ClassDescription const& cls) {
 void writeClass(fs::path const& folder, ClassDescription const& cls) {
     std::ostringstream out;
     std::string full = quote(cls.fullName());
-    std::vector<ClassDescription const*> const chain = lineage(cls);
+    ScriptMembers const members = scriptMembers(cls);
     writeClassHelp(out, cls);
     out << "classdef " << cls.getName() << " < handle\n\n";
 
-    // Members by name, the nearest declaration winning, as in a subclass.
-    struct Member {
-        ClassDescription const* owner;
-        PropertyInfo const* property;
-    };
-    std::vector<Member> readWrite, readOnly;
-    std::set<std::string> seen;
-    for (auto const* c : chain)
-        for (auto const& p : c->properties())
-            if (seen.insert(p.name).second) (p.isReadOnly() ? readOnly : readWrite).push_back({c, &p});
-    if (!readWrite.empty()) {
+    if (!members.readWrite.empty()) {
         out << "  properties (Dependent)\n";
-        for (auto const& m : readWrite)
-            out << "    " << m.property->name << "  % " << m.property->type << "\n";
+        for (auto const& m : members.readWrite)
+            out << "    " << m.info->name << "  % " << m.info->type << "\n";
         out << "  end\n\n";
     }
-    if (!readOnly.empty()) {
+    if (!members.readOnly.empty()) {
         out << "  properties (Dependent, SetAccess = private)\n";
-        for (auto const& m : readOnly)
-            out << "    " << m.property->name << "  % " << m.property->type << ", read only\n";
+        for (auto const& m : members.readOnly)
+            out << "    " << m.info->name << "  % " << m.info->type << ", read only\n";
         out << "  end\n\n";
     }
     writeRootMembers(out);
@@ -193,7 +170,7 @@ void writeClass(fs::path const& folder, ClassDescription const& cls) {
     out << "    function tf = isa(obj, name)\n"
         << "      % True for this class, its bases in the package, and handle.\n"
         << "      names = {";
-    for (auto const* c : chain) out << quote(c->fullName()) << ", ";
+    for (auto const* c : members.lineage) out << quote(c->fullName()) << ", ";
     out << "'handle'};\n"
         << "      if ischar(name)\n"
         << "        tf = any(strcmp(name, names));\n"
@@ -204,54 +181,43 @@ void writeClass(fs::path const& folder, ClassDescription const& cls) {
            "strings');\n"
         << "      end\n"
         << "    end\n";
-    for (auto const& m : readWrite) {
-        std::string const owner = quote(m.owner->fullName()), name = quote(m.property->name);
-        out << "    function value = get." << m.property->name << "(obj)\n"
+    for (auto const& m : members.readWrite) {
+        std::string const owner = quote(m.owner->fullName()), name = quote(m.info->name);
+        out << "    function value = get." << m.info->name << "(obj)\n"
             << "      value = __deckforge_gw__('get', obj, " << owner << ", " << name << ");\n"
             << "    end\n"
-            << "    function set." << m.property->name << "(obj, value)\n"
+            << "    function set." << m.info->name << "(obj, value)\n"
             << "      __deckforge_gw__('set', obj, " << owner << ", " << name << ", value);\n"
             << "    end\n";
     }
-    for (auto const& m : readOnly) {
-        out << "    function value = get." << m.property->name << "(obj)\n"
+    for (auto const& m : members.readOnly) {
+        out << "    function value = get." << m.info->name << "(obj)\n"
             << "      value = __deckforge_gw__('get', obj, " << quote(m.owner->fullName()) << ", "
-            << quote(m.property->name) << ");\n"
+            << quote(m.info->name) << ");\n"
             << "    end\n";
     }
-    std::set<std::string> written;
-    std::vector<MethodInfo const*> statics;
-    for (auto const& m : cls.methods())
-        if (m.kind == MethodInfo::Kind::Static) statics.push_back(&m);
-    for (auto const* c : chain) {
-        for (auto const& m : c->methods()) {
-            if (m.kind == MethodInfo::Kind::Static || !written.insert(m.name).second) continue;
-            out << "    function varargout = " << m.name << "(obj, varargin)\n";
-            for (auto const* o : c->methodOverloads(m.name))
-                out << "      % " << signatureLine(m.name, *o) << (o->help.empty() ? "" : "   " + o->help)
-                    << "\n";
-            out << "      varargout = __deckforge_gw__('call', obj, " << quote(c->fullName()) << ", "
-                << quote(m.name) << ", varargin{:});\n"
-                << "    end\n";
-        }
+    for (auto const& m : members.methods) {
+        std::string const& name = *m.name;
+        out << "    function varargout = " << name << "(obj, varargin)\n";
+        for (auto const* o : m.owner->methodOverloads(name))
+            out << "      % " << signatureLine(name, *o) << (o->help.empty() ? "" : "   " + o->help) << "\n";
+        out << "      varargout = __deckforge_gw__('call', obj, " << quote(m.owner->fullName()) << ", "
+            << quote(name) << ", varargin{:});\n"
+            << "    end\n";
     }
-    for (auto const* c : chain) {
-        if (c->events().empty()) continue;
+    if (members.eventOwner) {
         out << "    function listener = addlistener(obj, eventName, callback)\n"
             << "      % listener = addlistener(obj, eventName, @(src, evt) ...): callback runs at each "
                "event\n"
             << "      % until delete(listener) or listener.Enabled = false.\n"
-            << "      listener = __deckforge_gw__('addlistener', obj, " << quote(c->fullName())
-            << ", eventName, callback);\n"
+            << "      listener = __deckforge_gw__('addlistener', obj, "
+            << quote(members.eventOwner->fullName()) << ", eventName, callback);\n"
             << "    end\n";
-        break;
     }
     out << "  end\n";
-    if (!statics.empty()) {
+    if (!members.statics.empty()) {
         out << "\n  methods (Static)\n";
-        std::set<std::string> writtenStatic;
-        for (auto const* m : statics) {
-            if (!writtenStatic.insert(m->name).second) continue;
+        for (auto const* m : members.statics) {
             out << "    function varargout = " << m->name << "(varargin)\n"
                 << "      % " << signatureLine(m->name, *m) << (m->help.empty() ? "" : "   " + m->help)
                 << "\n"

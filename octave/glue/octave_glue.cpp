@@ -16,6 +16,7 @@
 #include <octave/oct.h>
 #include <octave/cdef-class.h>
 #include <octave/cdef-object.h>
+#include <octave/cdef-utils.h>
 #include <octave/interpreter.h>
 #include <octave/oct-env.h>
 #include <octave/ov-classdef.h>
@@ -27,6 +28,7 @@
 #include "binding/module.h"
 #include "binding/script_host.h"
 #include "binding/script_object.h"
+#include "native_members.h"
 #include "octave_values.h"
 #include "platform/except.h"
 #include "platform/host_services.h"
@@ -55,22 +57,20 @@ octave_value listenerProperty(octave_value const& listener, char const* name) {
     return listener.classdef_object_value()->get_object().get(name);
 }
 
+octave_value_list memberOperation(Member const& member, octave_value_list const& args);
+void attach(octave::cdef_object& obj, ScriptObject* object);
+
 class OctaveScriptHost : public ScriptHost {
 public:
     Value newObject(ScriptObject* object, std::string const& className) override {
-        octave_scalar_map marker;
-        marker.assign(kWrapMarker, octave_value(octave_uint64(reinterpret_cast<std::uintptr_t>(object))));
         octave_value made;
         try {
-            octave_value_list result = octave::feval(className, octave_value_list(octave_value(marker)), 1);
-            if (result.length() > 0) made = result(0);
+            octave::cdef_object obj = newClassObject(className, &memberOperation);
+            attach(obj, object);
+            made = octave::to_ov(obj);
         } catch (...) {
             if (ScriptObject::isLive(object) && object->hostObjects().empty()) ScriptObject::destroy(object);
             throw;
-        }
-        if (!ScriptObject::isLive(object) || object->hostObjects().empty()) {
-            if (ScriptObject::isLive(object)) ScriptObject::destroy(object);
-            throw std::runtime_error("the class " + className + " did not take its native object");
         }
         ObjectRef ref;
         ref.state = ObjectRef::State::Live;
@@ -187,10 +187,14 @@ octave::cdef_object objectOf(octave_value const& v) {
     return v.classdef_object_value()->get_object();
 }
 
-void attach(octave_value const& self, ScriptObject* object) {
-    octave::cdef_object obj = objectOf(self);
+void attach(octave::cdef_object& obj, ScriptObject* object) {
     object->attachHostObject(repOf(obj));
     obj.put(kNativeProperty, octave_value(octave_uint64(reinterpret_cast<std::uintptr_t>(object))));
+}
+
+void attach(octave_value const& self, ScriptObject* object) {
+    octave::cdef_object obj = objectOf(self);
+    attach(obj, object);
 }
 
 // The object's record if the object is attached to it, else null.
@@ -200,32 +204,40 @@ ScriptObject* recordOf(octave_value const& self) {
     return v.object().object;
 }
 
-octave_value_list opNew(octave_value_list const& args) {
-    octave_value self = args(1);
-    std::string className = stringArg(args, 2);
-    if (args.length() == 4 && isMarker(args(3), kBaseMarker)) return {};
-    if (args.length() == 4 && isMarker(args(3), kWrapMarker)) {
-        std::uint64_t p = args(3).scalar_map_value().getfield(kWrapMarker).uint64_scalar_value().value();
+// Gives `self`, an object of `className` under construction, its native
+// object: a new one made of args(first...), or the one a marker names.
+void constructOp(octave_value const& self, std::string const& className, octave_value_list const& args,
+                 int first) {
+    bool const one = args.length() == first + 1;
+    if (one && isMarker(args(first), kBaseMarker)) return;
+    if (one && isMarker(args(first), kWrapMarker)) {
+        std::uint64_t p = args(first).scalar_map_value().getfield(kWrapMarker).uint64_scalar_value().value();
         auto* object = reinterpret_cast<ScriptObject*>(static_cast<std::uintptr_t>(p));
         if (!ScriptObject::isLive(object)) error("__deckforge_gw__: no such native object");
         attach(self, object);
-        return {};
+        return;
     }
-    attach(self, construct(className, values(args, 3)));
+    attach(self, construct(className, values(args, first)));
+}
+
+octave_value_list opNew(octave_value_list const& args) {
+    std::string className = stringArg(args, 2);
+    constructOp(args(1), className, args, 3);
+    // The class is in use: its next calls skip the script code.
+    bindNativeMembers(octave::lookup_class(className), &memberOperation);
     return {};
 }
 
-octave_value_list opDelete(octave_value_list const& args) {
-    if (!args(1).is_classdef_object()) return {};
-    octave::cdef_object obj = objectOf(args(1));
+void deleteOp(octave_value const& self) {
+    if (!self.is_classdef_object()) return;
+    octave::cdef_object obj = objectOf(self);
     octave_value ptr = obj.get(kNativeProperty);
-    if (ptr.is_undefined()) return {};
+    if (ptr.is_undefined()) return;
     std::uint64_t p = ptr.uint64_scalar_value().value();
-    if (p == 0 || p == kDeletedPointer) return {};
+    if (p == 0 || p == kDeletedPointer) return;
     obj.put(kNativeProperty, octave_value(octave_uint64(kDeletedPointer)));
     auto* object = reinterpret_cast<ScriptObject*>(static_cast<std::uintptr_t>(p));
     if (ScriptObject::isLive(object) && object->detachHostObject(repOf(obj))) ScriptObject::destroy(object);
-    return {};
 }
 
 octave_value_list results(std::optional<Value> const& result) {
@@ -234,6 +246,12 @@ octave_value_list results(std::optional<Value> const& result) {
     Cell c(dim_vector(1, result ? 1 : 0));
     if (result) c(0) = toOctave(*result);
     return octave_value_list(octave_value(c));
+}
+
+// The results themselves, for a native member.
+octave_value_list resultList(std::optional<Value> const& result) {
+    if (!result) return {};
+    return octave_value_list(toOctave(*result));
 }
 
 octave_value_list opAddListener(octave_value_list const& args) {
@@ -269,7 +287,10 @@ octave_value_list opRemoveListener(octave_value_list const& args) {
 octave_value_list dispatchOp(octave_value_list const& args) {
     std::string op = stringArg(args, 0);
     if (op == "new") return opNew(args);
-    if (op == "delete") return opDelete(args);
+    if (op == "delete") {
+        deleteOp(args(1));
+        return {};
+    }
     if (op == "call")
         return results(
             callMethod(fromOctave(args(1)), stringArg(args, 2), stringArg(args, 3), values(args, 4)));
@@ -306,11 +327,12 @@ octave_value_list dispatchOp(octave_value_list const& args) {
     error("__deckforge_gw__: unknown operation '%s'", op.c_str());
 }
 
-octave_value_list gateway(octave_value_list const& args, int /*nargout*/) {
+// Runs `operation`, letting nothing native escape.
+template <class Operation>
+octave_value_list guarded(Operation&& operation) {
     try {
         installHost();
-        if (args.length() < 1) error("__deckforge_gw__: no operation");
-        return dispatchOp(args);
+        return operation();
     } catch (octave::execution_exception&) {
         throw;
     } catch (octave::interrupt_exception&) {
@@ -325,6 +347,45 @@ octave_value_list gateway(octave_value_list const& args, int /*nargout*/) {
     } catch (...) {
         error_with_id("deckforge:nativeError", "unknown native error");
     }
+}
+
+octave_value_list gateway(octave_value_list const& args, int /*nargout*/) {
+    return guarded([&] {
+        if (args.length() < 1) error("__deckforge_gw__: no operation");
+        return dispatchOp(args);
+    });
+}
+
+// The operation of a generated member, as its script code would call the
+// gateway.
+octave_value_list memberOperation(Member const& member, octave_value_list const& args) {
+    return guarded([&]() -> octave_value_list {
+        using Kind = Member::Kind;
+        if (member.kind == Kind::Static)
+            return resultList(callStatic(member.className, member.name, values(args, 0)));
+        if (args.length() < 1) error("Invalid call to %s", member.name.c_str());
+        switch (member.kind) {
+            case Kind::Constructor:
+                constructOp(args(0), member.className, args, 1);
+                return octave_value_list(args(0));
+            case Kind::Delete:
+                deleteOp(args(0));
+                return {};
+            case Kind::Method:
+                return resultList(callMethod(fromOctave(args(0)), member.owner, member.name, member.overloads,
+                                             values(args, 1)));
+            case Kind::Get:
+                return octave_value_list(
+                    toOctave(getProperty(fromOctave(args(0)), member.owner, member.name)));
+            case Kind::Set:
+                setProperty(fromOctave(args(0)), member.owner, member.name,
+                            fromOctave(args.length() > 1 ? args(1) : octave_value()));
+                return {};
+            case Kind::Static:
+                break;
+        }
+        return {};
+    });
 }
 
 struct Registration {

@@ -1,6 +1,8 @@
 #include "octave_values.h"
 
 #include <new>
+#include <unordered_map>
+#include <utility>
 
 #include <octave/Cell.h>
 #include <octave/cdef-class.h>
@@ -54,10 +56,23 @@ hvArray charsFromOctave(octave_value const& v) {
     return hvArray::text(columnMajor, rows, cols);
 }
 
+// The name of an object's class. Octave reads it out of the class's meta
+// data, through a map and a cell, each time; every object that crosses
+// needs it, and scripts use few classes. The classes are held, so that a
+// key is never reused.
+std::string const& classNameOf(octave::cdef_object const& obj) {
+    static auto* names = new std::unordered_map<void const*, std::pair<octave::cdef_class, std::string>>();
+    octave::cdef_class cls = obj.get_class();
+    void const* key = static_cast<octave::cdef_object const&>(cls).get_rep();
+    auto it = names->find(key);
+    if (it == names->end()) it = names->emplace(key, std::make_pair(cls, cls.get_name())).first;
+    return it->second.second;
+}
+
 ObjectRef refFromClassdef(octave_value const& v) {
     ObjectRef ref;
-    ref.className = v.class_name();
     octave::cdef_object obj = v.classdef_object_value()->get_object();
+    ref.className = obj.is_array() || obj.is_meta_object() ? v.class_name() : classNameOf(obj);
     ref.state = ObjectRef::State::Foreign;
     if (obj.is_array() || obj.is_meta_object()) return ref;
     octave_value ptr = obj.get(kNativeProperty);

@@ -169,9 +169,18 @@ std::optional<Value> run(MethodInfo const& method, Call& call) {
 
 std::optional<Value> callMethod(Value const& self, std::string const& className, std::string const& name,
                                 std::vector<Value> const& args) {
+    return callMethod(self, className, name, instanceOverloads(className, name), args);
+}
+
+std::vector<MethodInfo const*> instanceOverloads(std::string const& className, std::string const& name) {
+    return findOverloads(className, name, MethodInfo::Kind::Instance);
+}
+
+std::optional<Value> callMethod(Value const& self, std::string const& className, std::string const& name,
+                                std::vector<MethodInfo const*> const& overloads,
+                                std::vector<Value> const& args) {
     PPTObject target = selfObject(self, className);
-    auto candidates = findOverloads(className, name, MethodInfo::Kind::Instance);
-    MethodInfo const* chosen = pick(candidates, args);
+    MethodInfo const* chosen = pick(overloads, args);
     if (!chosen) raise<quorix::class_ids::NoMatchingSignature>(name, className);
     Call call(*chosen, target, args);
     return run(*chosen, call);

@@ -74,6 +74,12 @@ ScriptObject* construct(std::string const& className, std::vector<Value> const& 
 // Methods give no value when the chosen overload's result is "void".
 std::optional<Value> callMethod(Value const& self, std::string const& className, std::string const& name,
                                 std::vector<Value> const& args);
+// The same with the overloads of `name` that `className` sees, as
+// instanceOverloads found them, for callers that call one member often.
+std::vector<MethodInfo const*> instanceOverloads(std::string const& className, std::string const& name);
+std::optional<Value> callMethod(Value const& self, std::string const& className, std::string const& name,
+                                std::vector<MethodInfo const*> const& overloads,
+                                std::vector<Value> const& args);
 std::optional<Value> callStatic(std::string const& className, std::string const& name,
                                 std::vector<Value> const& args);
 Value getProperty(Value const& self, std::string const& className, std::string const& name);

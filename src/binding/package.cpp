@@ -1,6 +1,7 @@
 #include "binding/package.h"
 
 #include <stdexcept>
+#include <unordered_map>
 
 namespace deckforge {
 namespace ppt {
@@ -11,6 +12,15 @@ std::vector<std::unique_ptr<Package>>& topLevel() {
     // Never destroyed: descriptions hold invokers that may be asked for late.
     static auto* packages = new std::vector<std::unique_ptr<Package>>();
     return *packages;
+}
+
+// Classes found by full name. Every script call looks its class up, and
+// isA walks the superclasses by name: a walk down the tree each time costs
+// more than the rest of a short call. Descriptions stay where they are
+// until the tree changes.
+std::unordered_map<std::string, ClassDescription const*>& foundClasses() {
+    static auto* found = new std::unordered_map<std::string, ClassDescription const*>();
+    return *found;
 }
 }  // namespace
 
@@ -77,13 +87,18 @@ Package* PackageTree::getPackage(std::string const& fullName) {
 void PackageTree::addPackage(std::unique_ptr<COSPackageInfo> info) {
     std::string name = info->getName();
     topLevel().push_back(std::make_unique<Package>(name, std::move(info)));
+    foundClasses().clear();
 }
 
 ClassDescription const* PackageTree::findClass(std::string const& fullName) {
+    auto found = foundClasses().find(fullName);
+    if (found != foundClasses().end()) return found->second;
     std::string::size_type dot = fullName.rfind('.');
     if (dot == std::string::npos) return nullptr;
     Package* package = getPackage(fullName.substr(0, dot));
-    return package ? package->findClass(fullName.substr(dot + 1)) : nullptr;
+    ClassDescription const* cls = package ? package->findClass(fullName.substr(dot + 1)) : nullptr;
+    if (cls) foundClasses().emplace(fullName, cls);
+    return cls;
 }
 
 bool PackageTree::isA(std::string const& cls, std::string const& base) {
@@ -96,6 +111,7 @@ bool PackageTree::isA(std::string const& cls, std::string const& base) {
 }
 
 void PackageTree::clear() {
+    foundClasses().clear();
     topLevel().clear();
 }
 

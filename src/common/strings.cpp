@@ -1,8 +1,10 @@
 #include "common/strings.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <ctime>
+#include <locale>
 #include <random>
 #include <sstream>
 
@@ -62,9 +64,16 @@ void replaceAll(u16string& text, u16string const& from, u16string const& to) {
 namespace {
 
 // Integers go through a default stream so that a global locale with digit
-// grouping shows in the output, as the rest of the host's text does.
+// grouping shows in the output, as the rest of the host's text does. Without
+// grouping the digits are the same, and every object's id is made here: a
+// stream costs more than the rest of making a small object.
 template <class T>
 u16string integerText(T value) {
+    if (std::use_facet<std::numpunct<char>>(std::locale()).grouping().empty()) {
+        char digits[24];
+        char const* end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+        return u16string(static_cast<char const*>(digits), end);
+    }
     std::ostringstream out;
     out << value;
     return toString(out.str());

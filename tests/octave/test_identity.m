@@ -26,3 +26,17 @@ assert (~(g == 'x'));
 assert (isvalid (g));
 delete (g);
 assert (~isvalid (g));
+
+% Native functions take the place of a class's script members once it is in
+% use; the class still shows what its file says.
+helpText = evalc ('help deckforge.ppt.Paragraph.append');
+names = methods ('deckforge.ppt.Paragraph');
+p = deckforge.ppt.Paragraph ('x');
+assert (~isempty (strfind (helpText, 'append(')));
+assert (strcmp (evalc ('help deckforge.ppt.Paragraph.append'), helpText));
+assert (isequal (methods ('deckforge.ppt.Paragraph'), names));
+% A script subclass builds on the native constructor and members.
+s = ScriptText ('run');
+assert (strcmp (s.Content, 'run') && isa (s, 'deckforge.ppt.Text'));
+p.append (s);
+assert (p.Children{2} == s);

@@ -3,6 +3,8 @@
 #include <climits>
 #include <cmath>
 #include <limits>
+#include <locale>
+#include <string>
 
 #include "common/strings.h"
 
@@ -26,6 +28,18 @@ TEST(Strings, IntegersPrintPlainDecimal) {
     EXPECT_EQ(num2str(-2147483647 - 1), u"-2147483648");
     EXPECT_EQ(num2str(4294967295u), u"4294967295");
     EXPECT_EQ(num2str(18446744073709551615ul), u"18446744073709551615");
+}
+
+TEST(Strings, IntegersFollowTheGlobalLocalesGrouping) {
+    struct Thousands : std::numpunct<char> {
+        char do_thousands_sep() const override { return ','; }
+        std::string do_grouping() const override { return "\3"; }
+    };
+    std::locale const previous = std::locale::global(std::locale(std::locale::classic(), new Thousands));
+    u16string const grouped = num2str(1234567u);
+    std::locale::global(previous);
+    EXPECT_EQ(grouped, u"1,234,567");
+    EXPECT_EQ(num2str(1234567u), u"1234567");
 }
 
 TEST(Strings, ReadingNumbersNeverFails) {
