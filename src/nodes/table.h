@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "nodes/col_spec.h"
+#include "nodes/table_column.h"
 #include "nodes/shape.h"
 #include "nodes/table_row.h"
 #include "formats/element_style.h"

@@ -1,4 +1,4 @@
-#include "nodes/col_spec.h"
+#include "nodes/table_column.h"
 
 namespace deckforge {
 namespace ppt {

@@ -1,7 +1,7 @@
 #include "binding/accessors.h"
 #include "binding/ppt_classes.h"
 #include "binding/style_properties.h"
-#include "nodes/col_spec.h"
+#include "nodes/table_column.h"
 
 namespace deckforge {
 namespace ppt {
