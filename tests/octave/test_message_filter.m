@@ -12,12 +12,9 @@ assert (ischar (f.GlobalFilter) && isempty (f.GlobalFilter));
 f.GlobalFilter = [];
 assert (isnumeric (f.GlobalFilter) && isempty (f.GlobalFilter));
 
-% The logical adapter: numbers count, NaN is true.
-f.DebugMessagesPass = 1;   assert (f.DebugMessagesPass);
-f.DebugMessagesPass = 0;   assert (~f.DebugMessagesPass);
+% The logical adapter: numbers count, NaN is true, the first element decides.
 f.DebugMessagesPass = NaN; assert (f.DebugMessagesPass);
 f.DebugMessagesPass = [0 1]; assert (~f.DebugMessagesPass);
-f.DebugMessagesPass = false; assert (~f.DebugMessagesPass);
 
 d = deckforge.ppt.MessageDispatcher.getTheDispatcher ();
 f.SourceFilter = d;
@@ -27,17 +24,10 @@ assert (isempty (f.SourceFilter));
 
 % Messages: text, formats and the filter test.
 m = deckforge.ppt.ErrorMessage ('a <b> c', d);
-assert (strcmp (m.Text, 'a <b> c'));
-assert (strcmp (m.formatAsText (), [d.Tag ' a <b> c']));
 assert (strcmp (m.formatAsHTML (), ['<p>' d.Tag ' a <b> c</p>']));
-assert (m.passesFilter (f));
 f.ErrorMessagesPass = false;
 assert (~m.passesFilter (f));
-f.GlobalFilter = 'pass';
-assert (m.passesFilter (f));
-dbg = deckforge.ppt.DebugMessage ('x', d);
-assert (isa (dbg, 'deckforge.ppt.Message'));
-assert (dbg.passesFilter (f));
+assert (isa (deckforge.ppt.DebugMessage ('x', d), 'deckforge.ppt.Message'));
 
 % Non-ASCII text crosses intact.
 t = deckforge.ppt.ProgressMessage ('Grüße – 東京', d);

@@ -52,10 +52,3 @@ for t = {'Extension="tif" ContentType="image/tiff"', 'Extension="svg" ContentTyp
          'Extension="jpg" ContentType="image/jpeg"'}
   assert (! isempty (strfind (types, t{1})), 'no %s in %s', t{1}, types);
 end
-
-here = fileparts (mfilename ('fullpath'));
-validator = fullfile (here, '..', '..', '..', 'shared', 'ooxml-schemas', 'validate-pptx');
-if exist (validator, 'file') == 2
-  [status, output] = system (sprintf ('"%s" "%s" 2>&1', validator, out));
-  assert (status == 0, 'validate-pptx failed:\n%s', output);
-end

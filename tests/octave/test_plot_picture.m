@@ -1,5 +1,5 @@
 % A plot printed without a display goes on a slide as a picture of its
-% pixel size.
+% pixel size, measured by the host's picmeta.
 warning ('off', 'Octave:gnuplot-graphics');   % the only toolkit without a display
 png = fullfile (pwd, 'plot.png');
 f = figure ('visible', 'off');
@@ -21,16 +21,3 @@ p.replace ('Title', 'A plot');
 pic = s.add (deckforge.ppt.Picture (png));
 assert ({pic.Width, pic.Height}, {'640px', '400px'});
 p.close ();
-
-% 9525 EMU to the pixel, and the image's bytes unchanged in the package.
-unpacked = fullfile (pwd, 'unpacked');
-confirm_recursive_rmdir (false);
-if exist (unpacked, 'dir'), rmdir (unpacked, 's'); end   % a former run's
-unzip (out, unpacked);
-slide = fileread (fullfile (unpacked, 'ppt', 'slides', 'slide1.xml'));
-assert (! isempty (strfind (slide, '<a:ext cx="6096000" cy="3810000"/>')), slide);
-media = glob (fullfile (unpacked, 'ppt', 'media', '*.png'));
-assert (numel (media) == 1);
-fid = fopen (png);  original = fread (fid, Inf, 'uint8=>uint8');  fclose (fid);
-fid = fopen (media{1});  copied = fread (fid, Inf, 'uint8=>uint8');  fclose (fid);
-assert (isequal (copied, original));

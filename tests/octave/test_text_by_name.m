@@ -37,15 +37,6 @@ assert (strcmp (paragraph_texts (hits{1}), 'Both') && strcmp (paragraph_texts (h
 s1.add ('Title', 'and more');
 assert (isequal (paragraph_texts (hits{1}), {'Both', 'and more'}));
 
-% One paragraph for several boxes: the first takes the object, the others copies.
-shared = deckforge.ppt.Paragraph ('shared');
-p.add ('Content', shared);
-assert (shared.Parent == c1);
-k2 = c2.Children;
-assert (numel (k2) == 1 && k2{1} ~= shared && strcmp (k2{1}.Children{1}.Content, 'shared'));
-s2.replace ('Content', shared);   % it stands in c1: c2 gets a copy
-assert (shared.Parent == c1 && numel (c2.Children) == 1);
-
 % Lists: nested cell arrays go a level deeper; a Paragraph in a list keeps its
 % runs but takes the level of its depth; logicals and [] are blank lines.
 deep = deckforge.ppt.Paragraph ('deep', 7);

@@ -71,11 +71,6 @@ TEST(Strings, ReplaceAllNeverSearchesReplacedText) {
     EXPECT_EQ(s, u"x");
 }
 
-TEST(Strings, BooleansAreUpperCase) {
-    EXPECT_EQ(bool2str(true), u"TRUE");
-    EXPECT_EQ(bool2str(false), u"FALSE");
-}
-
 TEST(Strings, UuidIsVersionFourInCanonicalForm) {
     u16string const id = uuid_gen();
     ASSERT_EQ(id.size(), 36u);

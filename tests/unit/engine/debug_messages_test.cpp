@@ -46,12 +46,6 @@ protected:
 
 }  // namespace
 
-TEST_F(DebugMessagesTest, OffByDefault) {
-    ASSERT_FALSE(filter().getDebugMessagesPass());
-    { PPTNodePtr copy = FakeSlide().clone(); }
-    EXPECT_TRUE(listener.texts.empty());
-}
-
 TEST_F(DebugMessagesTest, ReportCreationAndDestructionByTag) {
     filter().setDebugMessagesPass(true);
     u16string tag, copyTag;

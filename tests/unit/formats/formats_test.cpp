@@ -2,7 +2,6 @@
 
 #include <boost/make_shared.hpp>
 
-#include "common/dimension.h"
 #include "engine/ppt_node.h"
 #include "formats/attribute.h"
 
@@ -81,29 +80,8 @@ TEST(FormatsTest, CopiesShareFormatObjectsAcrossElementsAndClones) {
     EXPECT_EQ(italic.getFormat(FormatTypeItalic), box.elementImpl()->getFormat(FormatTypeItalic));
 }
 
-TEST(FormatTest, PlainFormatAndInterfaces) {
-    Format plain;
-    EXPECT_EQ(plain.getFormatType(), FormatTypeNone);
-    EXPECT_STREQ(plain.getFullyQualifiedHobjTypeName(), "deckforge.ppt.Format");
-    EXPECT_FALSE(plain.formatImpl()->clone());
-
-    auto bold = make(FormatTypeBold);
-    boost::shared_ptr<Format> again = Format(bold->formatImpl()).makeInterface();
-    EXPECT_TRUE(boost::dynamic_pointer_cast<KindFormat>(again));  // the concrete class comes back
-    EXPECT_EQ(bold->getImpl()->getRefCount(), 2u);
-}
-
-TEST(AttributeTest, SetAndUnsetManageTheValue) {
-    BaseAttribute<unsigned int> number;
-    BaseAttribute<Dimension> length;
-    EXPECT_FALSE(number.isSet() || length.hasValue());
-    number.setValue(3);
-    number.setValue(4);
-    EXPECT_EQ(number.getValue(), 4u);
-    number.unsetValue();
-    number.unsetValue();
-    EXPECT_FALSE(number.hasValue());
-
+// An attribute holding an object keeps one reference, to the latest value only.
+TEST(AttributeTest, ObjectValuesHoldOneReference) {
     PPTObject first, second;
     BaseAttribute<PPTObject> object;
     object.setValue(first);

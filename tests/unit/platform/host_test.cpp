@@ -110,16 +110,3 @@ TEST(HostServices, TemporaryNamesAreFreshAndSafe) {
     host::utTmpnam(tiny, sizeof tiny);
     EXPECT_EQ(std::strlen(tiny), sizeof tiny - 1);
 }
-
-TEST(HostServices, RootAndCurrentDirectoryCanBePointedAtTheHost) {
-    EXPECT_EQ(host::currentDirectory(),
-              fl::i18n::to_string(std::filesystem::current_path().generic_string()));
-    host::setCurrentDirectoryProvider([] { return std::u16string(u"/work/ä"); });
-    EXPECT_EQ(host::currentDirectory(), u"/work/ä");
-    host::setCurrentDirectoryProvider(nullptr);
-
-    auto const old = host::QuorixRoot();
-    host::setQuorixRoot(u"/opt/q");
-    EXPECT_EQ(host::getToolboxPrefix(), u"/opt/q/toolbox");
-    host::setQuorixRoot(old);
-}

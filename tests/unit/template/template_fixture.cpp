@@ -36,7 +36,7 @@ std::string placeholderXml(std::string const& id, std::string const& name, std::
 }
 
 PackageRecipe makeTemplate(std::vector<Master> const& masters, std::vector<Layout> const& layouts,
-                         std::string const& presentationExtra) {
+                           std::string const& presentationExtra) {
     PackageRecipe recipe;
     std::string ids;
     int n = 0;
@@ -47,15 +47,15 @@ PackageRecipe makeTemplate(std::vector<Master> const& masters, std::vector<Layou
             "<p:sldMasterId id=\"" + std::to_string(2147483647LL + n) + "\" r:id=\"" + toUtf8(rid) + "\"/>";
         recipe.rel(u"/ppt/presentation.xml", rid, u"slideMaster", m.partName);
         recipe.part(m.partName,
-                  "<p:sldMaster" + kNamespaces +
-                      "><p:cSld><p:spTree><p:nvGrpSpPr><p:cNvPr id=\"1\" name=\"\"/></p:nvGrpSpPr>" +
-                      placeholderXml("2", "Title Placeholder 1", " type=\"title\"") +
-                      "</p:spTree></p:cSld></p:sldMaster>");
+                    "<p:sldMaster" + kNamespaces +
+                        "><p:cSld><p:spTree><p:nvGrpSpPr><p:cNvPr id=\"1\" name=\"\"/></p:nvGrpSpPr>" +
+                        placeholderXml("2", "Title Placeholder 1", " type=\"title\"") +
+                        "</p:spTree></p:cSld></p:sldMaster>");
         if (!m.themeName.empty()) {
             u16string const theme = u"/ppt/theme/theme" + num2str(n) + u".xml";
             recipe.part(theme,
-                      "<a:theme xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\" name=\"" +
-                          m.themeName + "\"/>");
+                        "<a:theme xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\" name=\"" +
+                            m.themeName + "\"/>");
             recipe.rel(m.partName, u"rIdT", u"theme", theme);
         }
         int k = 0;
@@ -67,11 +67,11 @@ PackageRecipe makeTemplate(std::vector<Master> const& masters, std::vector<Layou
         if (!l.masterPartName.empty()) recipe.rel(l.partName, u"rIdM", u"slideMaster", l.masterPartName);
     }
     recipe.part(u"/ppt/presentation.xml",
-              "<p:presentation" + kNamespaces + "><p:sldMasterIdLst>" + ids + "</p:sldMasterIdLst>" +
-                  presentationExtra +
-                  "<p:sldSz cx=\"9144000\" cy=\"6858000\"/><p:notesSz cx=\"6858000\" "
-                  "cy=\"9144000\"/></p:presentation>",
-              kPresentationType);
+                "<p:presentation" + kNamespaces + "><p:sldMasterIdLst>" + ids + "</p:sldMasterIdLst>" +
+                    presentationExtra +
+                    "<p:sldSz cx=\"9144000\" cy=\"6858000\"/><p:notesSz cx=\"6858000\" "
+                    "cy=\"9144000\"/></p:presentation>",
+                kPresentationType);
     recipe.rel(u"", u"rId1", u"officeDocument", u"/ppt/presentation.xml");
     return recipe;
 }
@@ -92,7 +92,6 @@ void TestDocumentWriter::writeDocument(u16string const& partName, xercesc::DOMDo
     boost::shared_ptr<opc::OutputStream> out = part.getOutputStream();
     opc::model::XercesHelper::writeDocumentToStream(document, *out);
     out->close();
-    written.push_back(partName);
 }
 
 xercesc::DOMDocument* parseXml(xercesc::DOMLSParser* parser, std::string const& xml) {

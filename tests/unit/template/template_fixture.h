@@ -68,7 +68,7 @@ struct Master {
     std::vector<u16string> layoutPartNames;
 };
 PackageRecipe makeTemplate(std::vector<Master> const& masters, std::vector<Layout> const& layouts,
-                         std::string const& presentationExtra = "");
+                           std::string const& presentationExtra = "");
 
 std::string layoutXml(std::string const& name, std::string const& shapes,
                       std::string const& rootAttributes = "", std::string const& afterCSld = "");
@@ -88,7 +88,6 @@ class TestDocumentWriter : public ppt::PartDocumentWriter {
 public:
     explicit TestDocumentWriter(boost::shared_ptr<OPCPackage> const& package);
     void writeDocument(u16string const& partName, xercesc::DOMDocument* document) override;
-    std::vector<u16string> written;
 };
 
 xercesc::DOMDocument* parseXml(xercesc::DOMLSParser* parser, std::string const& xml);

@@ -17,8 +17,6 @@
 #include "nodes/paragraph.h"
 #include "nodes/text_box.h"
 #include "template/template_records.h"
-#include "writers/paragraph_writer.h"
-#include "writers/text_writer.h"
 #include "writers/writer_fixture.h"
 
 namespace deckforge {
@@ -31,35 +29,9 @@ u16string const kSlideRel = u"http://schemas.openxmlformats.org/officeDocument/2
 u16string const kHyperlinkRel =
     u"http://schemas.openxmlformats.org/officeDocument/2006/relationships/hyperlink";
 
-// Stand-ins for the character and paragraph formats, through the same seams.
-struct FakeBold : FormatImpl {
-    explicit FakeBold(bool on) : on(on) {}
-    FormatType getFormatType() const override { return FormatTypeBold; }
-    void applyToText(TextWriter& writer) const override { writer.setRunAttribute(u"b", on); }
-    bool on;
-};
-struct FakeColor : FormatImpl {
-    FormatType getFormatType() const override { return FormatTypeFontColor; }
-    void applyToText(TextWriter& writer) const override { writer.addRunProperty(u"a:noFill"); }
-};
-struct FakeAlign : FormatImpl {
-    explicit FakeAlign(char16_t const* value) : value(value) {}
-    FormatType getFormatType() const override { return FormatTypeHAlign; }
-    void applyToParagraph(ParagraphWriter& writer) const override {
-        writer.setParagraphAttribute(u"algn", value);
-    }
-    char16_t const* value;
-};
 // Relationship ids are the package's to choose.
 std::string withoutIds(std::string const& markup) {
     return std::regex_replace(markup, std::regex("r:id=\"rId[0-9]+\""), "r:id=\"ID\"");
-}
-
-template <class F, class... A>
-void give(Element& element, A... args) {
-    Formats style = element.getStyle();
-    style.appendFormat(boost::make_shared<Format>(new F(args...)));
-    element.setStyle(style);
 }
 
 class TextRendering : public PresentationTest {
@@ -122,42 +94,6 @@ TEST_F(TextRendering, ParagraphLevelsAndRunOrder) {
         "<a:p><a:r><a:t>one</a:t></a:r><a:r><a:rPr><a:hlinkClick r:id=\"ID\"/></a:rPr><a:t>two</a:t></a:r>"
         "<a:r><a:t>3</a:t></a:r></a:p>",
         withoutIds(body));
-}
-
-TEST_F(TextRendering, FormatsReachRunsAndParagraphsThroughTheSeams) {
-    Paragraph own(u"own");
-    give<FakeAlign>(own, u"r");
-    give<FakeColor>(own);
-    Text plain(u"plain");
-    give<FakeBold>(plain, false);
-    own.append(plain);
-    own.append(ExternalLink(u"http://example.com/", u"link"));
-    Paragraph bare(ExternalLink(u"http://example.com/", u"bare"));
-    render({own, bare, Paragraph()}, [](TextBox& box) {
-        give<FakeBold>(box, true);
-        give<FakeAlign>(box, u"ctr");
-    });
-
-    std::string const markup = withoutIds(body);
-    // The paragraph's own alignment wins over the box's, which the others
-    // inherit; the box's bold reaches every run, a run's own bold false
-    // switches it off; a link's a:hlinkClick comes after the colour it
-    // inherits.
-    EXPECT_NE(std::string::npos,
-              markup.find("<a:p><a:pPr algn=\"r\"/>"
-                          "<a:r><a:rPr b=\"1\"><a:noFill/></a:rPr>"
-                          "<a:t>own</a:t></a:r>"
-                          "<a:r><a:rPr b=\"0\"><a:noFill/></a:rPr>"
-                          "<a:t>plain</a:t></a:r>"
-                          "<a:r><a:rPr b=\"1\"><a:noFill/>"
-                          "<a:hlinkClick r:id=\"ID\"/></a:rPr><a:t>link</a:t></a:r></a:p>"))
-        << markup;
-    EXPECT_NE(std::string::npos,
-              markup.find("<a:p><a:pPr algn=\"ctr\"/><a:r><a:rPr b=\"1\"><a:hlinkClick r:id=\"ID\"/></a:rPr>"
-                          "<a:t>bare</a:t></a:r></a:p><a:p><a:pPr algn=\"ctr\"/></a:p>"))
-        << markup;
-    EXPECT_EQ(1u, countOf(markup, "algn=\"r\""));
-    EXPECT_EQ(2u, hyperlinks().size());
 }
 
 // One deck with all the input that could break a part: every case is
