@@ -43,7 +43,8 @@ void chunk(std::string& out, char const* type, std::string const& data) {
     put32(out, static_cast<std::uint32_t>(data.size()));
     std::string body = std::string(type, 4) + data;
     out += body;
-    put32(out, static_cast<std::uint32_t>(crc32(0, reinterpret_cast<Bytef const*>(body.data()), body.size())));
+    put32(out,
+          static_cast<std::uint32_t>(crc32(0, reinterpret_cast<Bytef const*>(body.data()), body.size())));
 }
 
 // A 640 x 480 greyscale PNG of stripes.
@@ -56,7 +57,8 @@ void writePng(std::filesystem::path const& path) {
     }
     uLongf size = compressBound(raw.size());
     std::string packed(size, '\0');
-    compress2(reinterpret_cast<Bytef*>(&packed[0]), &size, reinterpret_cast<Bytef const*>(raw.data()), raw.size(), 6);
+    compress2(reinterpret_cast<Bytef*>(&packed[0]), &size, reinterpret_cast<Bytef const*>(raw.data()),
+              raw.size(), 6);
     packed.resize(size);
     std::string header;
     put32(header, width);
@@ -152,23 +154,28 @@ void build(unsigned long n, std::filesystem::path const& out, std::filesystem::p
 
 }  // namespace
 
+// With a picture.png given, the deck uses it; without, the program makes
+// one of its own (bench/run_workload makes it once, before any timing, and
+// hands the same file to the Octave script).
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: bench_workload N out.pptx\n");
+    if (argc != 3 && argc != 4) {
+        std::fprintf(stderr, "usage: bench_workload N out.pptx [picture.png]\n");
         return 2;
     }
     char const* root = std::getenv("DECKFORGE_ROOT");
     host::setQuorixRoot(toString(std::string(root ? root : DECKFORGE_BINARY_DIR)));
     std::filesystem::path const out = std::filesystem::absolute(argv[2]);
-    std::filesystem::path const png = out.string() + ".png";
-    writePng(png);
+    bool const ownPng = argc == 3;
+    std::filesystem::path const png =
+        ownPng ? std::filesystem::path(out.string() + ".png") : std::filesystem::absolute(argv[3]);
+    if (ownPng) writePng(png);
+    int status = 0;
     try {
         build(std::strtoul(argv[1], nullptr, 10), out, png);
     } catch (std::exception const& e) {
         std::fprintf(stderr, "bench_workload: %s\n", e.what());
-        std::filesystem::remove(png);
-        return 1;
+        status = 1;
     }
-    std::filesystem::remove(png);
-    return 0;
+    if (ownPng) std::filesystem::remove(png);
+    return status;
 }
