@@ -86,6 +86,72 @@ void indexElementsWithUid(DOMDocument* document, ElementMap& index) {
     walker->release();
 }
 
+// Whitespace between elements: a template written by hand or pretty-printed
+// indents its markup, and every slide made from a layout would copy, clone
+// and write that indentation again. Text in an element that holds no
+// elements (a run's a:t) is content and stays, blank or not.
+void collectIndentation(DOMElement* root, std::vector<DOMNode*>& blanks) {
+    auto blank = [](XMLCh const* text) {
+        for (; text && *text; ++text)
+            if (*text != u' ' && *text != u'\t' && *text != u'\n' && *text != u'\r') return false;
+        return true;
+    };
+    std::vector<DOMElement*> pending{root};
+    while (!pending.empty()) {
+        DOMElement* element = pending.back();
+        pending.pop_back();
+        if (!element || !element->getFirstElementChild()) continue;
+        for (DOMNode* child = element->getFirstChild(); child; child = child->getNextSibling()) {
+            if (child->getNodeType() == DOMNode::ELEMENT_NODE)
+                pending.push_back(static_cast<DOMElement*>(child));
+            else if (child->getNodeType() == DOMNode::TEXT_NODE && blank(child->getNodeValue()))
+                blanks.push_back(child);
+        }
+    }
+}
+
+// A copy of a document. Xerces' own clone attaches every node with the
+// checks of a DOM insertion (a dozen casts across the library's classes, and
+// a walk up the tree); a slide's copy is made for every slide written, so it
+// attaches nodes the way Xerces' parser does, and sets attributes by value
+// instead of importing each as a node with a text child. That is sound
+// here: each copy is new, childless, of the same document, and put where
+// the original was.
+DOMDocument* cloneDocument(DOMDocument const* source) {
+    auto* copy = static_cast<DOMDocument*>(source->cloneNode(false));
+    std::vector<std::pair<DOMNode const*, DOMNode*>> pending;
+    for (DOMNode const* top = source->getFirstChild(); top; top = top->getNextSibling()) {
+        DOMNode* topCopy = copy->importNode(top, false);
+        pending.emplace_back(top, topCopy);
+        while (!pending.empty()) {
+            auto const from = pending.back();
+            pending.pop_back();
+            DOMNode const* child = from.first->getFirstChild();
+            if (!child) continue;
+            xercesc::DOMParentNode* parent = xercesc::castToParentImpl(from.second);
+            for (; child; child = child->getNextSibling()) {
+                DOMNode* childCopy;
+                if (child->getNodeType() == DOMNode::ELEMENT_NODE) {
+                    DOMElement* element =
+                        copy->createElement(static_cast<DOMElement const*>(child)->getTagName());
+                    xercesc::DOMNamedNodeMap const* attributes = child->getAttributes();
+                    for (XMLSize_t i = 0, n = attributes->getLength(); i < n; ++i) {
+                        DOMNode const* attr = attributes->item(i);
+                        element->setAttribute(attr->getNodeName(), attr->getNodeValue());
+                    }
+                    childCopy = element;
+                } else {
+                    childCopy = copy->importNode(child, false);
+                }
+                parent->appendChildFast(childCopy);
+                if (child->hasChildNodes()) pending.emplace_back(child, childCopy);
+            }
+        }
+        // The document learns of its root element only through its own insert.
+        copy->appendChild(topCopy);
+    }
+    return copy;
+}
 }  // namespace
 
 PresentationModel::PresentationModel(boost::shared_ptr<PartDOMBuilder> builder)
@@ -386,47 +452,6 @@ void PresentationModel::buildSlideDocument(TemplateSlide& slide) {
     indexShapeElements(slide);
 }
 
-// A copy of a document. Xerces' own clone attaches every node with the
-// checks of a DOM insertion (a dozen casts across the library's classes, and
-// a walk up the tree); a slide's copy is made for every slide written, so it
-// attaches nodes the way Xerces' parser does. That is sound here: each copy
-// is new, childless, of the same document, and put where the original was.
-DOMDocument* PresentationModel::cloneDocument(DOMDocument const* source) {
-    auto* copy = static_cast<DOMDocument*>(source->cloneNode(false));
-    std::vector<std::pair<DOMNode const*, DOMNode*>> pending;
-    for (DOMNode const* top = source->getFirstChild(); top; top = top->getNextSibling()) {
-        DOMNode* topCopy = copy->importNode(top, false);
-        pending.emplace_back(top, topCopy);
-        while (!pending.empty()) {
-            auto const from = pending.back();
-            pending.pop_back();
-            DOMNode const* child = from.first->getFirstChild();
-            if (!child) continue;
-            xercesc::DOMParentNode* parent = xercesc::castToParentImpl(from.second);
-            for (; child; child = child->getNextSibling()) {
-                DOMNode* childCopy;
-                if (child->getNodeType() == DOMNode::ELEMENT_NODE) {
-                    DOMElement* element =
-                        copy->createElement(static_cast<DOMElement const*>(child)->getTagName());
-                    xercesc::DOMNamedNodeMap const* attributes = child->getAttributes();
-                    for (XMLSize_t i = 0, n = attributes->getLength(); i < n; ++i) {
-                        DOMNode const* attr = attributes->item(i);
-                        element->setAttribute(attr->getNodeName(), attr->getNodeValue());
-                    }
-                    childCopy = element;
-                } else {
-                    childCopy = copy->importNode(child, false);
-                }
-                parent->appendChildFast(childCopy);
-                if (child->hasChildNodes()) pending.emplace_back(child, childCopy);
-            }
-        }
-        // The document learns of its root element only through its own insert.
-        copy->appendChild(topCopy);
-    }
-    return copy;
-}
-
 void PresentationModel::releaseSlideDocument(TemplateSlide& slide) {
     if (!slide.fromLayout) return;
     slide.shapeElementsByUid.clear();
@@ -495,30 +520,6 @@ DOMDocument* PresentationModel::deriveSlidePrototype(DOMDocument const* layoutDo
         if (DOMNode* parent = node->getParentNode()) parent->removeChild(node);
     }
     return document;
-}
-
-// Whitespace between elements: a template written by hand or pretty-printed
-// indents its markup, and every slide made from a layout would copy, clone
-// and write that indentation again. Text in an element that holds no
-// elements (a run's a:t) is content and stays, blank or not.
-void PresentationModel::collectIndentation(DOMElement* root, std::vector<DOMNode*>& blanks) {
-    auto blank = [](XMLCh const* text) {
-        for (; text && *text; ++text)
-            if (*text != u' ' && *text != u'\t' && *text != u'\n' && *text != u'\r') return false;
-        return true;
-    };
-    std::vector<DOMElement*> pending{root};
-    while (!pending.empty()) {
-        DOMElement* element = pending.back();
-        pending.pop_back();
-        if (!element || !element->getFirstElementChild()) continue;
-        for (DOMNode* child = element->getFirstChild(); child; child = child->getNextSibling()) {
-            if (child->getNodeType() == DOMNode::ELEMENT_NODE)
-                pending.push_back(static_cast<DOMElement*>(child));
-            else if (child->getNodeType() == DOMNode::TEXT_NODE && blank(child->getNodeValue()))
-                blanks.push_back(child);
-        }
-    }
 }
 
 void PresentationModel::setSlideName(boost::shared_ptr<TemplateSlide> const& slide,

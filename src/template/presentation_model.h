@@ -109,8 +109,6 @@ private:
     // A clone of the layout's document made into a slide's, with the
     // content taken out as createSlide says.
     static xercesc::DOMDocument* deriveSlidePrototype(xercesc::DOMDocument const* layoutDocument);
-    static xercesc::DOMDocument* cloneDocument(xercesc::DOMDocument const* source);
-    static void collectIndentation(xercesc::DOMElement* root, std::vector<xercesc::DOMNode*>& blanks);
 
     void readMasters(opc::model::Part const& presentationPart);
     boost::shared_ptr<TemplateTheme> readTheme(opc::model::Part const& part);
