@@ -6,25 +6,33 @@
 file(REMOVE_RECURSE ${SCRATCH})
 file(MAKE_DIRECTORY ${SCRATCH})
 
-execute_process(
-  COMMAND ${OCTAVE} --no-gui --norc --no-window-system --no-history --eval
-    "warning('off', 'Octave:shadowed-function'); addpath('${BINARY_DIR}', '${EXAMPLES}'); \
-     deck = demo('${SCRATCH}', false); \
-     p = deckforge.ppt.Presentation(fullfile('${SCRATCH}', 'reread.pptx'), deck); p.open(); \
-     printf('engine slides: %d\\n', numel(p.Children));"
-  RESULT_VARIABLE status OUTPUT_VARIABLE made ERROR_VARIABLE errors)
-if(NOT status EQUAL 0 OR NOT made MATCHES "engine slides: ([0-9]+)")
-  message(FATAL_ERROR "the demo deck could not be made (${status}):\n${made}\n${errors}")
-endif()
-set(count ${CMAKE_MATCH_1})
+# Runs `script` in Octave, which makes `deck` in SCRATCH and prints the
+# number of slides the engine wrote, then reads the deck with POI. Sets
+# `count` and `seen` (what POI printed, also kept in SCRATCH/`keep`).
+function(make_and_read what script deck keep)
+  execute_process(
+    COMMAND ${OCTAVE} --no-gui --norc --no-window-system --no-history --eval "${script}"
+    RESULT_VARIABLE status OUTPUT_VARIABLE made ERROR_VARIABLE errors)
+  if(NOT status EQUAL 0 OR NOT made MATCHES "engine slides: ([0-9]+)")
+    message(FATAL_ERROR "${what} could not be made (${status}):\n${made}\n${errors}")
+  endif()
+  set(count ${CMAKE_MATCH_1} PARENT_SCOPE)
+  execute_process(
+    COMMAND ${JAVA} -cp ${CLASSPATH} ReadDeck ${SCRATCH}/${deck}
+    RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE errors)
+  file(WRITE ${SCRATCH}/${keep} "${out}")
+  if(NOT status EQUAL 0)
+    message(FATAL_ERROR "Apache POI failed on ${what} (${status}):\n${errors}\n${out}")
+  endif()
+  set(seen "${out}" PARENT_SCOPE)
+endfunction()
 
-execute_process(
-  COMMAND ${JAVA} -cp ${CLASSPATH} ReadDeck ${SCRATCH}/demo.pptx
-  RESULT_VARIABLE status OUTPUT_VARIABLE seen ERROR_VARIABLE errors)
-file(WRITE ${SCRATCH}/poi.txt "${seen}")
-if(NOT status EQUAL 0)
-  message(FATAL_ERROR "Apache POI failed on the demo deck (${status}):\n${errors}\n${seen}")
-endif()
+make_and_read("the demo deck"
+  "warning('off', 'Octave:shadowed-function'); addpath('${BINARY_DIR}', '${EXAMPLES}'); \
+   deck = demo('${SCRATCH}', false); \
+   p = deckforge.ppt.Presentation(fullfile('${SCRATCH}', 'reread.pptx'), deck); p.open(); \
+   printf('engine slides: %d\\n', numel(p.Children));"
+  demo.pptx poi.txt)
 
 # Slide numbers as POI counts them; the names are the shapes' own.
 set(expected
@@ -47,22 +55,10 @@ message(STATUS "Apache POI read ${count} slides")
 
 # The deck with every feature: every layout, format, picture kind and table
 # kind. POI must open it and find a text of each kind of content.
-execute_process(
-  COMMAND ${OCTAVE} --no-gui --norc --no-window-system --no-history --eval
-    "addpath('${BINARY_DIR}', '${TESTS_OCTAVE}'); [deck, ~, n] = every_feature_deck('${SCRATCH}'); \
-     printf('engine slides: %d\\n', n);"
-  RESULT_VARIABLE status OUTPUT_VARIABLE made ERROR_VARIABLE errors)
-if(NOT status EQUAL 0 OR NOT made MATCHES "engine slides: ([0-9]+)")
-  message(FATAL_ERROR "the deck with every feature could not be made (${status}):\n${made}\n${errors}")
-endif()
-set(count ${CMAKE_MATCH_1})
-execute_process(
-  COMMAND ${JAVA} -cp ${CLASSPATH} ReadDeck ${SCRATCH}/every.pptx
-  RESULT_VARIABLE status OUTPUT_VARIABLE seen ERROR_VARIABLE errors)
-file(WRITE ${SCRATCH}/poi-every.txt "${seen}")
-if(NOT status EQUAL 0)
-  message(FATAL_ERROR "Apache POI failed on the deck with every feature (${status}):\n${errors}\n${seen}")
-endif()
+make_and_read("the deck with every feature"
+  "addpath('${BINARY_DIR}', '${TESTS_OCTAVE}'); [deck, ~, n] = every_feature_deck('${SCRATCH}'); \
+   printf('engine slides: %d\\n', n);"
+  every.pptx poi-every.txt)
 foreach(pattern "^slides: ${count}\n" "Comparison / Text 2" "Formats box: Bold run" "link run"
                 "\\[1,1\\]: Head A" "\\[2,1\\]: struct row" "picture image/tiff" "picture image/gif")
   if(NOT seen MATCHES "${pattern}")
