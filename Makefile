@@ -3,6 +3,8 @@ BUILD      ?= build
 BUILD_SAN  ?= build-asan
 JOBS       ?= $(shell nproc)
 GENERATOR  := $(shell command -v ninja >/dev/null 2>&1 && echo "-G Ninja")
+# A compiler cache, where one is installed, makes rebuilds in other checkouts cheap.
+LAUNCHER   := $(shell command -v ccache >/dev/null 2>&1 && echo "-DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache")
 
 .PHONY: all setup configure build test test-native test-sanitize demo clean format package
 
@@ -12,7 +14,7 @@ setup:
 	@bash scripts/setup
 
 $(BUILD)/CMakeCache.txt:
-	cmake -S . -B $(BUILD) $(GENERATOR) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_FLAGS_RELWITHDEBINFO="-O2 -g1 -DNDEBUG" \
+	cmake -S . -B $(BUILD) $(GENERATOR) $(LAUNCHER) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_FLAGS_RELWITHDEBINFO="-O2 -g1 -DNDEBUG" \
 	  -DDECKFORGE_PCH=TESTS
 
 configure: setup $(BUILD)/CMakeCache.txt
@@ -25,7 +27,7 @@ build: configure
 # precompiled headers, in half of gcc's time, and with libFuzzer, which gcc
 # lacks; a sanitizer build that gcc made earlier is made anew.
 $(BUILD_SAN)/CMakeCache.txt:
-	CC=clang CXX=clang++ cmake -S . -B $(BUILD_SAN) $(GENERATOR) -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-g1 \
+	CC=clang CXX=clang++ cmake -S . -B $(BUILD_SAN) $(GENERATOR) $(LAUNCHER) -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-g1 \
 	  -DDECKFORGE_SANITIZE=ON -DDECKFORGE_UNIT_TESTS_ONLY=ON -DDECKFORGE_FUZZ=ON -DDECKFORGE_PCH=ALL
 
 test-native: build
