@@ -22,6 +22,41 @@ Value slideResult(Slide const& slide) {
 std::size_t slideIndex(Call& c, std::size_t arg) {
     return c.index<ppt_error::badSlideSubscript>(arg, c.self<Presentation>().getNChildren());
 }
+
+// A copy may also go behind the last slide.
+std::size_t copyIndex(Call& c, std::size_t arg) {
+    return c.index<ppt_error::badSlideSubscript>(arg, c.self<Presentation>().getNChildren() + 1);
+}
+
+Value propertiesResult(Presentation presentation) {
+    hvArray properties(hvClassID::Struct, 1, 1);
+    for (auto const& field : presentation.getProperties())
+        properties.setField(0, toUtf8(field.first), Value::text(field.second).array());
+    return Value(std::move(properties));
+}
+
+// Fields are checked before any is set, so a bad struct changes nothing.
+void setProperties(PPTObject const& self, Value const& value) {
+    if (!value.isArray() || value.array().classID() != hvClassID::Struct || value.numel() != 1)
+        raise<ppt_error::invalidPropertiesValue>();
+    hvArray const& properties = value.array();
+    Presentation presentation(self.getImpl());
+    auto const known = presentation.getProperties();
+    for (auto const& name : properties.fieldNames()) {
+        bool found = false;
+        for (auto const& entry : known) found = found || entry.first == toString(name);
+        if (!found) raise<ppt_error::unknownPropertiesField>(toString(name));
+    }
+    std::vector<std::pair<u16string, u16string>> fields;
+    for (auto const& name : properties.fieldNames()) {
+        hvArray const* field = properties.field(0, name);
+        Value const fieldValue = field ? Value::fromHvArray(*field) : Value();
+        // [] clears a field, as '' does.
+        bool const empty = fieldValue.isArray() && fieldValue.isEmpty();
+        fields.emplace_back(toString(name), empty ? u16string() : toText(fieldValue));
+    }
+    for (auto const& field : fields) presentation.setProperty(field.first, field.second);
+}
 }  // namespace
 
 class CosPresentation : public CosPPTObjectClassInfo {
@@ -29,8 +64,8 @@ public:
     CosPresentation() : CosPPTObjectClassInfo("Presentation") {}
     void initializeClass(ClassDescription& cls) const override {
         cls.setHelp(
-            "A presentation built on a template and written to OutputPath by close.\n"
-            "  p = deckforge.ppt.Presentation('out.pptx');   % default template\n"
+            "A presentation built on a template and written to OutputPath by close. "
+            "  p = deckforge.ppt.Presentation('out.pptx');   % default template "
             "  s = p.add('Title Slide'); p.close();");
         cls.addSuperclass("deckforge.ppt.Node");
         cls.addConstructor(
@@ -47,6 +82,13 @@ public:
         cls.addProperty("OutputPath", "text", getter(&Presentation::getOutputPath),
                         textSetter(&Presentation::setOutputPath),
                         "The file that close writes; fixed once the presentation is open.");
+        cls.addProperty(
+            "Properties", "struct",
+            [](PPTObject const& self) { return propertiesResult(Presentation(self.getImpl())); }, setProperties,
+            "The document properties: a struct of Title, Subject, Author, Keywords, Description, "
+            "Category, LastModifiedBy, Created and Modified (ISO 8601 text, as '2024-05-01T09:00:00Z'). "
+            "Assigning a struct sets the fields it has:  p.Properties = struct('Title', 'Results'); "
+            "With SOURCE_DATE_EPOCH set, Modified is that time unless assigned.");
 
         cls.addMethod(
             "open", words::Logical, {}, [](Call& c) { return toScript(c.self<Presentation>().open()); },
@@ -91,6 +133,36 @@ public:
                     c.self<Presentation>().add(c.text(0), c.text(1), static_cast<unsigned long>(index)));
             },
             "add(layout, master, index): a new slide at the 1-based index.");
+        cls.addMethod(
+            "remove", words::Void, {kSlide},
+            [](Call& c) {
+                c.self<Presentation>().remove(c.object<Slide>(0));
+                return Value();
+            },
+            "remove(slide): the slide leaves the deck, a template slide too. At close its part, "
+            "its notes and whatever only it used (pictures, charts) are left out of the file.");
+        cls.addMethod(
+            "move", words::Void, {kSlide, words::UInt64},
+            [](Call& c) {
+                std::size_t index = slideIndex(c, 1);
+                c.self<Presentation>().move(c.object<Slide>(0), static_cast<unsigned long>(index));
+                return Value();
+            },
+            "move(slide, index): the slide goes to the 1-based index among the deck's slides.");
+        cls.addMethod(
+            "duplicate", kSlide, {kSlide},
+            [](Call& c) { return slideResult(c.self<Presentation>().duplicate(c.object<Slide>(0))); },
+            "d = duplicate(slide): a full copy of the slide (shapes, text, tables, pictures, notes), "
+            "right after it. Pictures are stored once for both.");
+        cls.addMethod(
+            "duplicate", kSlide, {kSlide, words::UInt64},
+            [](Call& c) {
+                Presentation presentation = c.self<Presentation>();
+                Slide const original = c.object<Slide>(0);
+                std::size_t index = copyIndex(c, 1);
+                return slideResult(presentation.duplicate(original, static_cast<unsigned long>(index)));
+            },
+            "d = duplicate(slide, index): the copy at the 1-based index; one past the last appends.");
         // By name, on every slide. There is no add(name, text): two texts
         // name a layout and its master.
         addContentByNameMethods<Presentation>(cls);

@@ -5,6 +5,7 @@
 #include "nodes/table.h"
 #include "engine/slide.h"
 #include "nodes/paragraph.h"
+#include "nodes/text.h"
 #include "nodes/text_box.h"
 
 namespace deckforge {
@@ -13,6 +14,49 @@ namespace mi {
 
 namespace {
 constexpr char const* kTextBox = "deckforge.ppt.TextBox";
+
+// A list of notes paragraphs as a text box would take it: nested cells a
+// level deeper, numbers as their text, Paragraph objects by their text.
+void flattenNotes(ListItems const& items, std::uint32_t level,
+                  std::vector<std::pair<std::uint32_t, u16string>>& paragraphs) {
+    for (auto const& item : items) {
+        switch (item.getKind()) {
+            case ListItem::Kind::List:
+                flattenNotes(item.getItems(), level + 1, paragraphs);
+                break;
+            case ListItem::Kind::Text:
+                paragraphs.emplace_back(level, item.getText());
+                break;
+            case ListItem::Kind::Number:
+                paragraphs.emplace_back(level, num2str(item.getNumber()));
+                break;
+            case ListItem::Kind::Paragraph: {
+                u16string text;
+                if (item.getParagraph())
+                    for (auto const& child : item.getParagraph()->getChildren())
+                        if (auto run = Text::cast(child)) text += run->getTextContent();
+                paragraphs.emplace_back(level, text);
+                break;
+            }
+            case ListItem::Kind::Blank:
+                paragraphs.emplace_back(level, u16string());
+                break;
+        }
+    }
+}
+
+void setNotes(PPTObject const& self, Value const& value) {
+    Slide slide(self.getImpl());
+    if (value.isCell()) {
+        std::vector<std::pair<std::uint32_t, u16string>> paragraphs;
+        flattenNotes(toListItems(value), 1, paragraphs);
+        slide.slideImpl()->setNotes(paragraphs);
+    } else if (value.isArray() && value.isEmpty()) {
+        slide.setNotes(u16string());
+    } else {
+        slide.setNotes(toText(value));
+    }
+}
 constexpr char const* kPicture = "deckforge.ppt.Picture";
 constexpr char const* kTable = "deckforge.ppt.Table";
 }  // namespace
@@ -28,6 +72,10 @@ public:
                         "The slide master of the layout.");
         cls.addProperty("Name", "text", getter(&PPTNode::getName), textSetter(&Slide::setName),
                         "The slide's name.");
+        cls.addProperty("Notes", "text", getter(&Slide::getNotes), setNotes,
+                        "The speaker notes, paragraphs joined by newlines. Set text (a newline starts a "
+                        "paragraph), or a cell array of paragraphs as replace takes it (nested cells a "
+                        "level deeper); '' removes the notes. Notes of template slides are kept.");
         cls.addMethod(
             "find", words::NodeVector, {words::String},
             [](Call& c) { return toScript(c.self<Slide>().find(c.text(0))); },

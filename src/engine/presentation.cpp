@@ -10,8 +10,11 @@
 #include "package/opc_package.h"
 #include "platform/hv.h"
 #include "platform/msg_ids.h"
+#include "platform/opc/zip_writer.h"
+#include "template/core_properties.h"
 #include "template/part_dom_builder.h"
 #include "template/presentation_model.h"
+#include "writers/core_properties_writer.h"
 #include "writers/ppt_writer.h"
 
 namespace deckforge {
@@ -282,6 +285,7 @@ void PresentationImpl::loadTemplate(u16string const& templatePath) {
     mState = PresentationState::Parsing;
     mModel = parser.parse();
     mState = PresentationState::Parsed;
+    mCoreProperties = readCoreProperties(*mDOMBuilder);
 
     templatePackage->close();
     tempPackage->close();
@@ -310,6 +314,7 @@ bool PresentationImpl::close() {
         for (auto const& slide : slides) writer.write(slide);
         mState = PresentationState::Closed;
     }
+    writeCoreProperties(package, mAssignedProperties, opc::zippackage::sourceDateEpoch());
     // Explicitly, so that a failure of the final zip write reaches the
     // caller instead of dying in the package's destructor.
     package->close();

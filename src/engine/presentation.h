@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <utility>
 #include <vector>
 
@@ -111,6 +112,21 @@ public:
     Slide addSlide(u16string const& layoutName, PPTNode const& before);
     Slide addSlide(u16string const& layoutName, u16string const& masterName, PPTNode const& before);
 
+    // Deck editing (engine/slide_operations.cpp). Each opens first; a slide
+    // that isn't one of this deck's raises slideNotInPresentation. Indexes
+    // are zero-based and checked by the caller.
+    void removeSlide(PPTNode const& slide);
+    void moveSlide(PPTNode const& slide, std::size_t index);
+    // A copy with its own part at close, right after the slide or at `index`.
+    Slide duplicateSlide(PPTNode const& slide, std::size_t const* index);
+
+    // The core properties as (field, text) in the fixed field order; a
+    // field the template lacks is empty text. setProperty raises
+    // unknownPropertiesField for a name that is no field, and
+    // invalidPropertyValue for a date that isn't ISO 8601.
+    std::vector<std::pair<u16string, u16string>> getProperties();
+    void setProperty(u16string const& field, u16string const& value);
+
     PresentationState getState() const { return mState; }
     // For the template parser, which owns the Parsed and ParseFailed moves.
     void setState(PresentationState state) { mState = state; }
@@ -151,6 +167,8 @@ private:
     boost::shared_ptr<PartDOMBuilder> mDOMBuilder;
     boost::shared_ptr<PresentationModel> mModel;
     std::vector<std::pair<u16string, u16string>> mTableStyleNames;
+    std::map<u16string, u16string> mCoreProperties;      // as the template has them
+    std::map<u16string, u16string> mAssignedProperties;  // set by script code, written at close
 };
 
 class Presentation : public PPTNode {
@@ -205,6 +223,20 @@ public:
     }
     Slide add(u16string const& layoutName, u16string const& masterName, Slide const& before) {
         return presentationImpl()->addSlide(layoutName, masterName, before);
+    }
+
+    void remove(Slide const& slide) { presentationImpl()->removeSlide(slide); }
+    void move(Slide const& slide, unsigned long index) {
+        presentationImpl()->moveSlide(slide, static_cast<std::size_t>(index));
+    }
+    Slide duplicate(Slide const& slide) { return presentationImpl()->duplicateSlide(slide, nullptr); }
+    Slide duplicate(Slide const& slide, unsigned long index) {
+        std::size_t const at = index;
+        return presentationImpl()->duplicateSlide(slide, &at);
+    }
+    std::vector<std::pair<u16string, u16string>> getProperties() { return presentationImpl()->getProperties(); }
+    void setProperty(u16string const& field, u16string const& value) {
+        presentationImpl()->setProperty(field, value);
     }
 
     PresentationImpl* presentationImpl() const { return getImplAs<PresentationImpl>(); }

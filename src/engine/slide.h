@@ -4,6 +4,8 @@
 // find by name and fill. A slide without a template record is never written.
 #pragma once
 
+#include <cstdint>
+#include <utility>
 #include <vector>
 
 #include <boost/shared_ptr.hpp>
@@ -76,6 +78,15 @@ public:
     // `successor`.
     PPTNodePtr putInPlaceOf(PPTNodeImpl* old, PPTNodePtr const& successor);
 
+    // The speaker notes (engine/slide_operations.cpp): their paragraphs
+    // joined by line feeds, and set from text (a line feed starts a
+    // paragraph) or from a list as a text box takes one. No paragraphs, or
+    // one empty one, remove the notes. A slide without a template record
+    // has none and keeps none.
+    u16string getNotes() const;
+    void setNotes(u16string const& text);
+    void setNotes(std::vector<std::pair<std::uint32_t, u16string>> const& paragraphs);
+
 private:
     u16string mMasterName;
     u16string mLayoutName;
@@ -106,6 +117,9 @@ public:
     Picture add(Picture const& picture);
     Table add(Table const& table);
     TextBox add(TextBox const& textBox);
+
+    u16string getNotes() const { return slideImpl()->getNotes(); }
+    void setNotes(u16string const& text) { slideImpl()->setNotes(text); }
 
     SlideImpl* slideImpl() const { return getImplAs<SlideImpl>(); }
 };

@@ -1,5 +1,7 @@
 #include "package/opc_package.h"
 
+#include <set>
+
 #include "platform/filesystem.h"
 #include "platform/msg_ids.h"
 
@@ -218,6 +220,40 @@ opc::model::Part OPCPartWriter::createPart(opc::model::PartName const& name,
                                            opc::model::ContentType const& contentType,
                                            opc::model::StandardPartInfo const& info) {
     return mPackage->createPart(name, contentType, info);
+}
+
+void OPCPartWriter::deletePart(u16string const& name) {
+    mPackage->deletePart(opc::model::PartName(name));
+}
+
+std::vector<u16string> OPCPartWriter::deleteUnreachableParts() {
+    // Part names are equal but for ASCII case, as the package compares them.
+    auto key = [](u16string name) {
+        for (auto& c : name)
+            if (c >= u'A' && c <= u'Z') c = static_cast<char16_t>(c - u'A' + u'a');
+        return name;
+    };
+    std::set<u16string> reached;
+    std::vector<u16string> pending;
+    auto follow = [&](opc::model::RelationshipSource const& source) {
+        for (auto const& relationship : source.getRelationships()) {
+            if (relationship.getTargetMode() != opc::model::TargetModeInternal) continue;
+            u16string const target = relationship.getTargetURI().getPath();
+            if (mPackage->hasPart(opc::model::PartName(target)) && reached.insert(key(target)).second)
+                pending.push_back(target);
+        }
+    };
+    follow(*mPackage);
+    while (!pending.empty()) {
+        u16string const name = pending.back();
+        pending.pop_back();
+        follow(mPackage->getPart(opc::model::PartName(name)));
+    }
+    std::vector<u16string> dropped;
+    for (auto const& name : mPackage->getPartNames())
+        if (!reached.count(key(name.toString()))) dropped.push_back(name.toString());
+    for (auto const& name : dropped) mPackage->deletePart(opc::model::PartName(name));
+    return dropped;
 }
 
 opc::model::Relationship OPCPartWriter::createRelationship(u16string const& type, u16string const& target,

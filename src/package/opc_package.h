@@ -112,6 +112,11 @@ public:
     opc::model::Part getPart(u16string const& name) const;
     // Compressed as usual, without size hint.
     opc::model::Part createPart(u16string const& name, u16string const& contentType);
+    void deletePart(u16string const& name);
+    // Deletes every part that no chain of internal relationships reaches
+    // from the package's own relationships, and gives their names. A part
+    // that only dropped parts point at goes with them.
+    std::vector<u16string> deleteUnreachableParts();
     opc::model::Part createPart(opc::model::PartName const& name, opc::model::ContentType const& contentType,
                                 opc::model::StandardPartInfo const& info);
     // An internal relationship of the package; an empty id gets a new one.

@@ -8,6 +8,8 @@
 #include <xercesc/dom/impl/DOMCasts.hpp>
 #include <xercesc/dom/impl/DOMParentNode.hpp>
 
+#include "template/notes_reader.h"
+
 namespace deckforge {
 namespace ppt {
 
@@ -330,6 +332,7 @@ void PresentationModel::readSlides(opc::model::Part const& presentationPart) {
                 readShape(child, *slide->shapes, slide->layout);
         }
         indexShapeElements(*slide);
+        readSlideNotes(*partBuilder, part, *slide);
     }
 }
 

@@ -96,6 +96,15 @@ public:
 
 using TemplateLayoutList = std::vector<boost::shared_ptr<TemplateLayout>>;
 
+// One paragraph of speaker notes: its text and outline level, 1 at the top.
+class NotesParagraph {
+public:
+    std::uint32_t level = 1;
+    u16string text;
+};
+
+using NotesParagraphs = std::vector<NotesParagraph>;
+
 class TemplateMaster : private boost::noncopyable {
 public:
     u16string id;              // "id" of the p:sldMasterId
@@ -134,6 +143,15 @@ public:
     // A slide made from a layout owns its document, and has one only while
     // it is being written: until then everything it holds is in the nodes.
     bool fromLayout = false;
+
+    // The speaker notes: read from the template's notes part, or set by
+    // script code. A template slide whose notes nobody set keeps its notes
+    // part as it is; changed notes get a new part at close.
+    NotesParagraphs notes;
+    bool notesChanged = false;
+    // A copy of another slide takes the relationships (pictures, charts,
+    // links) of the part of that slide, named here.
+    u16string copiedFromPartName;
 };
 
 using TemplateSlideList = std::vector<boost::shared_ptr<TemplateSlide>>;

@@ -15,6 +15,10 @@ char16_t const* const kImageRelationship =
     u"http://schemas.openxmlformats.org/officeDocument/2006/relationships/image";
 char16_t const* const kHyperlinkRelationship =
     u"http://schemas.openxmlformats.org/officeDocument/2006/relationships/hyperlink";
+char16_t const* const kNotesSlideRelationship =
+    u"http://schemas.openxmlformats.org/officeDocument/2006/relationships/notesSlide";
+char16_t const* const kChartRelationship =
+    u"http://schemas.openxmlformats.org/officeDocument/2006/relationships/chart";
 
 u16string slidePartName(std::uint64_t number) {
     return u"/ppt/slides/slide" + num2str(static_cast<unsigned long>(number)) + u".xml";
@@ -35,14 +39,77 @@ u16string PPTPartWriter::addSlide(boost::shared_ptr<TemplateSlide> const& slide)
     return name;
 }
 
+u16string PPTPartWriter::newPartName(u16string const& prefix, u16string const& suffix) {
+    std::uint64_t& number = partNumbers[prefix];
+    u16string name;
+    do name = prefix + num2str(static_cast<unsigned long>(++number)) + suffix;
+    while (hasPart(name));
+    return name;
+}
+
+u16string PPTPartWriter::copyPart(u16string const& source, u16string const& prefix) {
+    opc::model::Part from = getPart(source);
+    u16string const name = source.substr(source.rfind(u'.'));
+    u16string const copyName = newPartName(prefix, name);
+    opc::model::Part to = createPart(copyName, from.getContentType().toString());
+    auto in = from.getInputStream();
+    auto out = to.getOutputStream();
+    opc::StreamHelper::copyStreamToStream(*in, *out);
+    out->close();
+    for (auto const& relationship : from.getRelationships()) {
+        if (relationship.getTargetMode() == opc::model::TargetModeExternal)
+            to.createExternalRelationship(relationship.getType(), relationship.getTarget(), relationship.getID());
+        else
+            to.createInternalRelationship(relationship.getType(), relationship.getTargetURI(),
+                                          relationship.getID());
+    }
+    return copyName;
+}
+
+u16string PPTPartWriter::addSlideCopy(boost::shared_ptr<TemplateSlide> const& slide) {
+    u16string name = slidePartName(++slideNumber);
+    while (hasPart(name)) name = slidePartName(++slideNumber);
+    opc::model::Part part = createPart(name, kSlideContentType);
+    if (!slide || !hasPart(slide->copiedFromPartName)) return name;
+    for (auto const& relationship : getPart(slide->copiedFromPartName).getRelationships()) {
+        u16string const& type = relationship.getType();
+        if (type == kNotesSlideRelationship) continue;
+        if (relationship.getTargetMode() == opc::model::TargetModeExternal) {
+            part.createExternalRelationship(type, relationship.getTarget(), relationship.getID());
+            continue;
+        }
+        u16string target = relationship.getTargetURI().getPath();
+        if (type == kChartRelationship && hasPart(target)) target = copyPart(target, u"/ppt/charts/chart");
+        part.createInternalRelationship(type, opc::model::URI(target), relationship.getID());
+    }
+    return name;
+}
+
 u16string PPTPartWriter::newMediaName(u16string const& extension) {
-    // uuid_gen is seeded by the time in seconds, so images written within one
-    // second get one UUID: a counter that only grows tells them apart, and
-    // the search never starts again from the first taken name.
-    u16string const stem = u"/ppt/media/" + uuid_gen();
-    u16string name = stem + u"." + extension;
-    while (hasPart(name))
-        name = stem + u"-" + num2str(static_cast<unsigned long>(++mediaSuffix)) + u"." + extension;
+    // Names follow from the order of writing alone, so that one script
+    // writes the same package every time. The counter only grows: the
+    // search never starts again from the first taken name.
+    u16string name;
+    do name = u"/ppt/media/image" + num2str(static_cast<unsigned long>(++mediaNumber)) + u"." + extension;
+    while (hasPart(name));
+    return name;
+}
+
+u16string PPTPartWriter::mediaPartFor(std::string const& bytes, u16string const& extension,
+                                      u16string const& contentType) {
+    // A picture placed on many slides, or a slide duplicated, stores its
+    // image once.
+    std::size_t const hash = std::hash<std::string>()(bytes);
+    auto const range = mediaByHash.equal_range(hash);
+    for (auto it = range.first; it != range.second; ++it)
+        if (it->second.second == bytes && hasPart(it->second.first)) return it->second.first;
+
+    u16string const name = newMediaName(extension);
+    opc::model::Part media = createPart(name, contentType);
+    boost::shared_ptr<opc::OutputStream> output = media.getOutputStream();
+    output->write(bytes.data(), bytes.size());
+    output->close();
+    mediaByHash.emplace(hash, std::make_pair(name, bytes));
     return name;
 }
 
@@ -60,16 +127,14 @@ u16string PPTPartWriter::addImage(u16string const& slidePartName, u16string cons
     if (contentType.empty()) return u16string();
 
     getPart(slidePartName);  // the slide's part must exist by now
-    u16string const name = newMediaName(FileUtils::getFileNameExtension(imagePath));
-    opc::model::Part media = createPart(name, contentType);
-    boost::shared_ptr<opc::OutputStream> output = media.getOutputStream();
-    char buffer[1024];
+    std::string bytes;
+    char buffer[16384];
     while (*input) {
         input->read(buffer, sizeof buffer);
         std::streamsize const count = input->gcount();
-        if (count > 0) output->write(buffer, static_cast<std::size_t>(count));
+        if (count > 0) bytes.append(buffer, static_cast<std::size_t>(count));
     }
-    output->close();
+    u16string const name = mediaPartFor(bytes, FileUtils::getFileNameExtension(imagePath), contentType);
 
     if (!hasPart(slidePartName)) return u16string();
     opc::model::Part slide = getPart(slidePartName);

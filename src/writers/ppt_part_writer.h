@@ -4,6 +4,9 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
+#include <string>
+#include <utility>
 
 #include "template/template_records.h"
 #include "writers/part_dom_writer.h"
@@ -22,8 +25,17 @@ public:
     // Creates the next free "/ppt/slides/slideN.xml", related to the slide's
     // layout, and gives its name.
     u16string addSlide(boost::shared_ptr<TemplateSlide> const& slide);
-    // Copies the image into a new media part and relates the slide to it; a
-    // new part for every call. Empty text, and no part, if the file can't be
+    // The same for a copy of a slide: the new part takes the relationships
+    // of the slide copied, with their ids, so that the copied markup finds
+    // its pictures and links. Its notes are the copy's own; a chart gets a
+    // part of its own, as editing one copy's data must not change the other.
+    u16string addSlideCopy(boost::shared_ptr<TemplateSlide> const& slide);
+    // The first free "<prefix>N<suffix>", counting on from the last one
+    // given for that prefix.
+    u16string newPartName(u16string const& prefix, u16string const& suffix);
+    // Relates the slide to a media part holding the image's bytes: the part
+    // of an earlier call with the same bytes, or a new "imageN" part. Empty
+    // text, and no part, if the file can't be
     // read or its extension names no known media type. The slide part must
     // exist: the package library's error passes through otherwise.
     u16string addImage(u16string const& slidePartName, u16string const& imagePath);
@@ -34,9 +46,17 @@ public:
 private:
     u16string newMediaName(u16string const& extension);
 
+    // The media part for the image's bytes, made if there is none yet.
+    u16string mediaPartFor(std::string const& bytes, u16string const& extension, u16string const& contentType);
+
+    // A new part with the content and relationships of `source`.
+    u16string copyPart(u16string const& source, u16string const& prefix);
+
     std::uint64_t slideNumber = 0;
-    // Told apart names of media that came out with the same UUID.
-    std::uint64_t mediaSuffix = 0;
+    std::uint64_t mediaNumber = 0;
+    std::map<u16string, std::uint64_t> partNumbers;
+    // Media parts written in this pass, by the hash of their bytes.
+    std::multimap<std::size_t, std::pair<u16string, std::string>> mediaByHash;
 };
 
 }  // namespace ppt

@@ -10,6 +10,7 @@
 #include "template/presentation_model.h"
 #include "writers/picture_writer.h"
 #include "writers/ppt_part_writer.h"
+#include "writers/unwritten_slides.h"
 
 namespace deckforge {
 namespace ppt {
@@ -61,7 +62,12 @@ void PPTWriter::init(boost::shared_ptr<OPCPackage> const& package) {
 
 PPTWriter::~PPTWriter() noexcept(false) {
     if (std::uncaught_exceptions() > uncaughtAtStart) return;
-    if (writtenSlides && model) model->writePresentationPart(*partWriter, *writtenSlides);
+    if (!writtenSlides || !model) return;
+    dropUnwrittenSlides(*partWriter, *model, *writtenSlides);
+    model->writePresentationPart(*partWriter, *writtenSlides);
+    // Last, when every part that stays has its relationships: what only a
+    // dropped slide reached goes with it.
+    partWriter->deleteUnreachableParts();
 }
 
 void PPTWriter::write(PPTNodePtr const& node) {

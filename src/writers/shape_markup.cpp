@@ -116,13 +116,15 @@ DOMElement* pictureSkeleton(DOMDocument* document, u16string const& relationship
     return pic;
 }
 
-// A p:cNvPr with the slide's next shape id and the shape's Name, or a new
-// uuid when it has none.
+// A p:cNvPr with the slide's next shape id and the shape's Name, or
+// "Picture <id>" when it has none: a name that follows from the slide alone
+// keeps the output the same from run to run.
 DOMElement* newShapeName(TemplateSlide& slide, ShapeImpl const& shape) {
     DOMElement* cNvPr = slide.document->createElement(xml::kCNvPr);
-    cNvPr->setAttribute(xml::kId, num2str(static_cast<unsigned int>(slide.nextShapeId++)).c_str());
+    u16string const id = num2str(static_cast<unsigned int>(slide.nextShapeId++));
+    cNvPr->setAttribute(xml::kId, id.c_str());
     auto const& name = shape.getNameAttribute();
-    cNvPr->setAttribute(xml::kName, (name.isSet() ? name.getValue() : uuid_gen()).c_str());
+    cNvPr->setAttribute(xml::kName, (name.isSet() ? name.getValue() : u"Picture " + id).c_str());
     return cNvPr;
 }
 
@@ -222,9 +224,10 @@ DOMElement* createTextBoxShape(TemplateSlide& slide, ShapeImpl const& shape) {
     DOMElement* sp = document->createElement(xml::kSp);
     DOMElement* nvSpPr = appendNew(sp, xml::kNvSpPr);
     DOMElement* cNvPr = appendNew(nvSpPr, xml::kCNvPr);
-    cNvPr->setAttribute(xml::kId, num2str(static_cast<unsigned int>(slide.nextShapeId++)).c_str());
+    u16string const id = num2str(static_cast<unsigned int>(slide.nextShapeId++));
+    cNvPr->setAttribute(xml::kId, id.c_str());
     auto const& name = shape.getNameAttribute();
-    cNvPr->setAttribute(xml::kName, (name.isSet() ? name.getValue() : uuid_gen()).c_str());
+    cNvPr->setAttribute(xml::kName, (name.isSet() ? name.getValue() : u"TextBox " + id).c_str());
     appendNew(nvSpPr, xml::kCNvSpPr);
     appendNew(nvSpPr, xml::kNvPr);
 

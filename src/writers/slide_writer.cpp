@@ -1,6 +1,7 @@
 #include "writers/slide_writer.h"
 
 #include "template/presentation_model.h"
+#include "writers/notes_writer.h"
 #include "writers/ppt_part_writer.h"
 #include "writers/shape_markup.h"
 
@@ -18,7 +19,10 @@ void SlideWriter::write() {
     // Also for an empty name, so that the p:cSld always says it.
     getModel()->setSlideName(templateSlide, slide->getName());
     // A template slide keeps its part; a new one gets the next free name.
-    if (templateSlide->partName.empty()) templateSlide->partName = getPartWriter()->addSlide(templateSlide);
+    if (templateSlide->partName.empty())
+        templateSlide->partName = templateSlide->copiedFromPartName.empty()
+                                      ? getPartWriter()->addSlide(templateSlide)
+                                      : getPartWriter()->addSlideCopy(templateSlide);
     getWriter()->setCurrentSlide(templateSlide);
 
     // The shape writers find or create their own elements; new ones take ids
@@ -27,6 +31,7 @@ void SlideWriter::write() {
     writeChildren(nullptr);
 
     getPartWriter()->writeDocument(templateSlide->partName, templateSlide->document);
+    NotesWriter(getWriter()).write(*templateSlide);
     PresentationModel::releaseSlideDocument(*templateSlide);
 }
 

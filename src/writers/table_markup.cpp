@@ -81,9 +81,10 @@ void takeOverNonVisual(DOMElement* frame, DOMElement* oldNonVisual, TemplateSlid
     DOMElement* nvPr = ElementWriter::findChildElement(oldNonVisual, xml::kNvPr);
     if (!cNvPr) {
         cNvPr = slide.document->createElement(xml::kCNvPr);
-        cNvPr->setAttribute(xml::kId, num2str(static_cast<unsigned int>(slide.nextShapeId++)).c_str());
+        u16string const id = num2str(static_cast<unsigned int>(slide.nextShapeId++));
+        cNvPr->setAttribute(xml::kId, id.c_str());
         auto const& name = shape.getNameAttribute();
-        cNvPr->setAttribute(xml::kName, (name.isSet() ? name.getValue() : uuid_gen()).c_str());
+        cNvPr->setAttribute(xml::kName, (name.isSet() ? name.getValue() : u"Table " + id).c_str());
     }
     properties->insertBefore(cNvPr, properties->getFirstChild());
     properties->appendChild(nvPr ? nvPr : slide.document->createElement(xml::kNvPr));

@@ -66,10 +66,19 @@ void FileSystemPhysicalPackage::writeItem(std::u16string const& name,
     pending_.emplace_back(name, std::move(content));
 }
 
+// A deleted item waits as an item without content.
+void FileSystemPhysicalPackage::deleteItem(std::u16string const& name) {
+    writeItem(name, nullptr, false);
+}
+
 void FileSystemPhysicalPackage::commit() {
     for (auto const& item : pending_) {
         fs::path file = fs::path(folder_) / checkedName(item.first);
         std::error_code ec;
+        if (!item.second) {
+            fs::remove(file, ec);
+            continue;
+        }
         fs::create_directories(file.parent_path(), ec);
         if (ec)
             throw Exception("cannot create the folder " + file.parent_path().string() + ": " + ec.message());

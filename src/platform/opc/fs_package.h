@@ -23,6 +23,7 @@ public:
     std::shared_ptr<std::string const> readItem(std::u16string const& name) override;
     void writeItem(std::u16string const& name, std::shared_ptr<std::string const> content,
                    bool compress) override;
+    void deleteItem(std::u16string const& name) override;
     void commit() override;
 
 private:

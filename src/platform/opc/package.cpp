@@ -168,6 +168,14 @@ struct ContentTypes {
         }
         dirty = true;
     }
+    void removeOverride(std::u16string const& partName) {
+        auto found = overrideIndex.find(partKey(partName));
+        if (found == overrideIndex.end()) return;
+        overrides.erase(overrides.begin() + static_cast<std::ptrdiff_t>(found->second));
+        overrideIndex.clear();
+        for (std::size_t i = 0; i < overrides.size(); ++i) overrideIndex.emplace(partKey(overrides[i].first), i);
+        dirty = true;
+    }
     std::u16string typeOf(std::u16string const& partName) const {
         auto over = overrideIndex.find(partKey(partName));
         if (over != overrideIndex.end()) return overrides[over->second].second;
@@ -244,6 +252,8 @@ struct PackageCore {
     std::unordered_map<std::string, std::unique_ptr<PartEntry>> parts;  // by part key
     std::vector<PartEntry*> order;                                      // stored, then created
     std::unordered_map<std::string, std::u16string> items;              // every stored item, by key
+    std::vector<std::u16string> deletedItems;                           // stored items to drop at close
+    std::vector<std::unique_ptr<PartEntry>> deletedParts;  // kept so that stale handles stay harmless
     ContentTypes types;
     RelationshipSet packageRelationships;
     xercesc::DOMLSParser* parser = nullptr;
@@ -624,7 +634,38 @@ void Package::close(bool revert) {
     }
     for (auto& item : relationshipItems)
         physical.writeItem(item.first, std::make_shared<std::string const>(std::move(item.second)), true);
+    // A part made again under a deleted name has been written just above.
+    for (auto const& item : core.deletedItems)
+        if (!core.parts.count(partKey(item))) physical.deleteItem(item);
     physical.commit();
+}
+
+void Package::deletePart(PartName const& name) {
+    auto& core = *core_;
+    core.requireWritable();
+    auto found = core.parts.find(partKey(name.toString()));
+    if (found == core.parts.end()) throw Exception("no part " + toUtf8(name.toString()) + " in the package");
+    detail::PartEntry* entry = found->second.get();
+    core.order.erase(std::remove(core.order.begin(), core.order.end(), entry), core.order.end());
+    auto drop = [&core](std::u16string const& item) {
+        auto stored = core.items.find(partKey(item));
+        if (stored == core.items.end()) return;
+        core.deletedItems.push_back(stored->second);
+        core.items.erase(stored);
+    };
+    drop(entry->itemName);
+    drop(core.relationshipsOf(*entry).itemName);
+    core.types.removeOverride(name.toString());
+    core.deletedParts.push_back(std::move(found->second));
+    core.parts.erase(found);
+}
+
+std::vector<PartName> Package::getPartNames() const {
+    core_->requireOpen();
+    std::vector<PartName> names;
+    names.reserve(core_->order.size());
+    for (auto const* entry : core_->order) names.push_back(entry->name);
+    return names;
 }
 
 bool Package::hasPart(PartName const& name) const {

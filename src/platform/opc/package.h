@@ -112,9 +112,16 @@ public:
     bool hasPart(PartName const& name) const;
     // Raises opc::Exception if there is no such part.
     Part getPart(PartName const& name) const;
+    // Stored parts in stored order, then created ones in order of creation.
+    std::vector<PartName> getPartNames() const;
     // Raises opc::Exception if the part exists or the name isn't valid.
     Part createPart(PartName const& name, ContentType const& type,
                     StandardPartInfo const& info = StandardPartInfo());
+    // Drops the part, its relationships and its content type override at
+    // close. Relationships that point at it are left to the caller. Handles
+    // on the part are void afterwards. Raises opc::Exception if there is no
+    // such part.
+    void deletePart(PartName const& name);
 };
 
 }  // namespace model

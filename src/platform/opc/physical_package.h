@@ -40,6 +40,8 @@ public:
     virtual void writeDeflatedItem(std::u16string const& name, std::shared_ptr<DeflatedContent const> content) {
         writeItem(name, std::make_shared<std::string const>(inflate(*content, "the item")), true);
     }
+    // Drops a stored or buffered item at commit.
+    virtual void deleteItem(std::u16string const& name) = 0;
     // Writes the buffered items out, in the order in which they were first
     // written, and completes the file.
     virtual void commit() = 0;

@@ -203,12 +203,16 @@ std::shared_ptr<std::string const> ZipPhysicalPackage::readItem(std::u16string c
 
 void ZipPhysicalPackage::writeItem(std::u16string const& name, std::shared_ptr<std::string const> content,
                                    bool compress) {
-    pend(Pending{name, std::move(content), compress, nullptr});
+    pend(Pending{name, std::move(content), compress, nullptr, false});
 }
 
 void ZipPhysicalPackage::writeDeflatedItem(std::u16string const& name,
                                            std::shared_ptr<DeflatedContent const> content) {
-    pend(Pending{name, nullptr, true, std::move(content)});
+    pend(Pending{name, nullptr, true, std::move(content), false});
+}
+
+void ZipPhysicalPackage::deleteItem(std::u16string const& name) {
+    pend(Pending{name, nullptr, false, nullptr, true});
 }
 
 void ZipPhysicalPackage::pend(Pending item) {
@@ -230,15 +234,22 @@ void ZipPhysicalPackage::commit() {
     committed_ = true;
     // An update that changes nothing leaves the file alone.
     if (!(archive_ && pending_.empty())) {
-        static std::time_t const entryTime = fixedEntryTime();
+        static std::time_t const fixedTime = fixedEntryTime();
+        EntryTimes times;
+        times.time = fixedTime;
+        if (auto const epoch = sourceDateEpoch()) {
+            times.time = *epoch;
+            times.everyEntry = true;
+        }
         std::vector<NewItem> items;
         items.reserve(pending_.size());
         for (auto const& item : pending_)
-            items.push_back(NewItem{detail::toUtf8(item.name), item.content, item.compress, item.deflated});
+            items.push_back(
+                NewItem{detail::toUtf8(item.name), item.content, item.compress, item.deflated, item.removed});
         if (output_)
-            writeZipArchive(nullptr, items, entryTime, *output_);
+            writeZipArchive(nullptr, items, times, *output_);
         else
-            writeZipFile(path_, archive_, items, entryTime);
+            writeZipFile(path_, archive_, items, times);
     }
     pending_.clear();
     pendingIndex_.clear();

@@ -42,6 +42,7 @@ public:
                    bool compress) override;
     void writeDeflatedItem(std::u16string const& name, std::shared_ptr<DeflatedContent const> content) override;
     bool keepsItemsDeflated() const override { return true; }
+    void deleteItem(std::u16string const& name) override;
     void commit() override;
 
 private:
@@ -53,6 +54,7 @@ private:
         std::shared_ptr<std::string const> content;
         bool compress;
         std::shared_ptr<DeflatedContent const> deflated;
+        bool removed;
     };
     // Queues an item for commit; a later item of the same name replaces it.
     void pend(Pending item);

@@ -9,6 +9,7 @@
 #include <chrono>
 #include <climits>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <unordered_map>
 
@@ -78,14 +79,37 @@ std::string quoted(std::string const& name) {
 
 }  // namespace
 
-DosTime toDosTime(std::time_t t) {
-    std::tm tm{};
+namespace {
+DosTime fromBrokenDown(std::tm const& tm) {
     DosTime dos;
-    if (!localtime_r(&t, &tm) || tm.tm_year < 80) return dos;
+    if (tm.tm_year < 80) return dos;
     if (tm.tm_year > 207) return DosTime{(23 << 11) | (59 << 5) | 29, (127 << 9) | (12 << 5) | 31};
     dos.time = static_cast<std::uint16_t>((tm.tm_hour << 11) | (tm.tm_min << 5) | (tm.tm_sec / 2));
     dos.date = static_cast<std::uint16_t>(((tm.tm_year - 80) << 9) | ((tm.tm_mon + 1) << 5) | tm.tm_mday);
     return dos;
+}
+}  // namespace
+
+std::optional<std::time_t> sourceDateEpoch() {
+    char const* text = std::getenv("SOURCE_DATE_EPOCH");
+    if (!text || !*text) return std::nullopt;
+    char* end = nullptr;
+    errno = 0;
+    long long const seconds = std::strtoll(text, &end, 10);
+    if (errno != 0 || *end != '\0' || seconds < 0) return std::nullopt;
+    return static_cast<std::time_t>(seconds);
+}
+
+DosTime toDosTime(std::time_t t) {
+    std::tm tm{};
+    if (!localtime_r(&t, &tm)) return DosTime();
+    return fromBrokenDown(tm);
+}
+
+DosTime toUtcDosTime(std::time_t t) {
+    std::tm tm{};
+    if (!gmtime_r(&t, &tm)) return DosTime();
+    return fromBrokenDown(tm);
 }
 
 ZipWriter::ZipWriter(OutputStream& out) : out_(out) {
@@ -251,7 +275,7 @@ struct ZipFileCloser {
 // Copies entry `index` of the source as it is stored there: no inflating,
 // no deflating.
 void copyEntry(zip* source, zip_uint64_t index, zip_stat_t const& st, ZipWriter& writer,
-               std::vector<char>& buffer) {
+               std::vector<char>& buffer, DosTime const* time) {
     std::string const name = st.name;
     auto fail = [&](std::string const& reason) {
         return Exception("cannot copy the zip entry " + quoted(name) + ": " + reason);
@@ -269,7 +293,10 @@ void copyEntry(zip* source, zip_uint64_t index, zip_stat_t const& st, ZipWriter&
     entry.crc = st.crc;
     entry.compressedSize = st.comp_size;
     entry.size = st.size;
-    if (st.valid & ZIP_STAT_MTIME) entry.time = toDosTime(st.mtime);
+    if (time)
+        entry.time = *time;
+    else if (st.valid & ZIP_STAT_MTIME)
+        entry.time = toDosTime(st.mtime);
     entry.attributes = attributesOf(source, index);
     writer.beginCopy(entry);
     for (;;) {
@@ -352,20 +379,21 @@ private:
 
 }  // namespace
 
-void writeZipArchive(zip* source, std::vector<NewItem> const& items, std::time_t time, OutputStream& out) {
+void writeZipArchive(zip* source, std::vector<NewItem> const& items, EntryTimes times, OutputStream& out) {
     ZipWriter writer(out);
-    DosTime const newTime = toDosTime(time);
+    DosTime const newTime = times.everyEntry ? toUtcDosTime(times.time) : toDosTime(times.time);
     std::unordered_map<std::string, std::size_t> byName;
     for (std::size_t i = 0; i < items.size(); ++i) byName.emplace(items[i].name, i);
     std::vector<bool> written(items.size(), false);
     auto add = [&](std::size_t i, FileAttributes attributes) {
         static std::string const empty;
+        written[i] = true;
+        if (items[i].removed) return;
         if (items[i].deflated)
             writer.addDeflatedEntry(items[i].name, *items[i].deflated, newTime, attributes);
         else
             writer.addEntry(items[i].name, items[i].content ? *items[i].content : empty, items[i].compress,
                             newTime, attributes);
-        written[i] = true;
     };
 
     std::string comment;
@@ -382,7 +410,7 @@ void writeZipArchive(zip* source, std::vector<NewItem> const& items, std::time_t
             if (found != byName.end())
                 add(found->second, attributesOf(source, index));
             else
-                copyEntry(source, index, st, writer, buffer);
+                copyEntry(source, index, st, writer, buffer, times.everyEntry ? &newTime : nullptr);
         }
         int length = 0;
         if (char const* text = zip_get_archive_comment(source, &length, ZIP_FL_ENC_RAW))
@@ -393,10 +421,10 @@ void writeZipArchive(zip* source, std::vector<NewItem> const& items, std::time_t
     writer.finish(comment);
 }
 
-void writeZipFile(std::string const& path, zip* source, std::vector<NewItem> const& items, std::time_t time) {
+void writeZipFile(std::string const& path, zip* source, std::vector<NewItem> const& items, EntryTimes times) {
     ReplacementFile file(path);
     DescriptorStream out(file.descriptor(), file.path());
-    writeZipArchive(source, items, time, out);
+    writeZipArchive(source, items, times, out);
     file.commit();
 }
 

@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <ctime>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,8 @@ struct DosTime {
     std::uint16_t date = (1 << 5) | 1;
 };
 DosTime toDosTime(std::time_t t);
+// The same in UTC, for times that must not depend on the machine's zone.
+DosTime toUtcDosTime(std::time_t t);
 
 // The system an entry comes from and its attributes there; by default a
 // Unix file that all may read and write.
@@ -103,26 +106,41 @@ private:
 };
 
 // An item with new content, for writeZipArchive: its bytes, or if
-// `deflated` is set, those bytes deflated.
+// `deflated` is set, those bytes deflated. A `removed` item is an entry of
+// the source that is left out.
 struct NewItem {
     std::string name;  // UTF-8
     std::shared_ptr<std::string const> content;
     bool compress;
     std::shared_ptr<DeflatedContent const> deflated;
+    bool removed;
 };
+
+// When entry times are given (the reproducible-builds convention of
+// SOURCE_DATE_EPOCH), every entry carries that time, copied ones too, taken
+// as UTC; otherwise new entries carry the archive's time and copied ones
+// keep theirs.
+struct EntryTimes {
+    std::time_t time = 0;
+    bool everyEntry = false;
+};
+
+// SOURCE_DATE_EPOCH, if it is set to a whole number of seconds; empty
+// otherwise (unset, empty, or not a number).
+std::optional<std::time_t> sourceDateEpoch();
 
 // Writes the package's zip onto `out` and finishes it. With a `source`
 // archive, its entries come first in their order, each copied in its
 // compressed form unless an item of the same name replaces it in place
 // (with the attributes of the entry it replaces); the other items follow in
-// their given order. New and replaced entries carry `time`.
-void writeZipArchive(zip* source, std::vector<NewItem> const& items, std::time_t time, OutputStream& out);
+// their given order. New and replaced entries carry `times.time`.
+void writeZipArchive(zip* source, std::vector<NewItem> const& items, EntryTimes times, OutputStream& out);
 
 // The same into the file at `path`, through a temporary file beside it that
 // takes the file's place only when the archive is complete. On failure the
 // file at `path` is as it was and the temporary file is gone. A replaced
 // file keeps its permissions.
-void writeZipFile(std::string const& path, zip* source, std::vector<NewItem> const& items, std::time_t time);
+void writeZipFile(std::string const& path, zip* source, std::vector<NewItem> const& items, EntryTimes times);
 
 }  // namespace zippackage
 }  // namespace opc
