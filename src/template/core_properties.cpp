@@ -7,6 +7,13 @@ namespace ppt {
 
 char16_t const kCorePropertiesRelationship[] =
     u"http://schemas.openxmlformats.org/package/2006/relationships/metadata/core-properties";
+std::vector<u16string> const& corePropertiesRelationships() {
+    static std::vector<u16string> const types = {
+        kCorePropertiesRelationship,
+        u"http://schemas.openxmlformats.org/officedocument/2006/relationships/metadata/core-properties"};
+    return types;
+}
+
 char16_t const kCorePropertiesContentType[] = u"application/vnd.openxmlformats-package.core-properties+xml";
 
 namespace {
@@ -43,7 +50,7 @@ u16string localNameOf(u16string const& qualifiedName) {
 
 std::map<u16string, u16string> readCoreProperties(PartDOMBuilder& builder) {
     std::map<u16string, u16string> values;
-    u16string const partName = builder.getRelatedPartName(kCorePropertiesRelationship);
+    u16string const partName = builder.getRelatedPartName(corePropertiesRelationships());
     if (partName.empty() || !builder.hasPart(partName)) return values;
     xercesc::DOMDocument* document = builder.buildPartDOM(partName);
     xercesc::DOMElement* root = document ? document->getDocumentElement() : nullptr;

@@ -12,6 +12,10 @@ namespace deckforge {
 namespace ppt {
 
 extern char16_t const kCorePropertiesRelationship[];
+// The relationship types that name the core properties part: the standard
+// one, and the one that LibreOffice writes, with "officedocument" in lower
+// case.
+std::vector<u16string> const& corePropertiesRelationships();
 extern char16_t const kCorePropertiesContentType[];
 
 class CorePropertyField {

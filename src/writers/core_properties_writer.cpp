@@ -75,16 +75,17 @@ void writeCoreProperties(boost::shared_ptr<OPCPackage> const& package,
                          std::map<u16string, u16string> const& assigned, std::optional<std::time_t> fixedTime) {
     PartDOMWriter parts(package);
     OPCPartReader reader(package);
-    u16string partName = reader.getRelatedPartName(kCorePropertiesRelationship);
+    u16string partName = reader.getRelatedPartName(corePropertiesRelationships());
     bool const missing = partName.empty() || !parts.hasPart(partName);
     if (!missing && assigned.empty() && !fixedTime) return;
 
     std::map<u16string, u16string> values = assigned;
     if (missing) {
-        // A part of that name that nothing relates to is no core properties
-        // part, and can't be ours.
+        // A part of that name that isn't related as core properties is
+        // something else, and stays.
         partName = kCorePartName;
-        if (parts.hasPart(partName)) parts.deletePart(partName);
+        for (unsigned int n = 2; parts.hasPart(partName); ++n)
+            partName = u"/docProps/core" + num2str(n) + u".xml";
         opc::model::Part part = parts.createPart(partName, kCorePropertiesContentType);
         auto out = part.getOutputStream();
         out->write(kEmptyCoreProperties, sizeof kEmptyCoreProperties - 1);

@@ -124,6 +124,29 @@ TEST_F(SlideOperations, NotesAreKeptChangedAndRemoved) {
     EXPECT_EQ(1u, countUnder(graph.reached, u"/ppt/notesSlides/"));
 }
 
+// LibreOffice relates its core properties with "officedocument" in lower
+// case: they are read and changed in place, not made a second time.
+TEST_F(SlideOperations, CorePropertiesOfLibreOfficeTemplatesAreChangedInPlace) {
+    auto const source = sourceDir() / "tests" / "fixtures" / "templates" / "names_16x9.potx";
+    {
+        Presentation p(out("props.pptx"), source.u16string());
+        auto const before = p.getProperties();
+        ASSERT_EQ(u"Author", before[2].first);
+        p.setProperty(u"Title", u"Kept");
+        EXPECT_EQ("deckforge:ppt_error:unknownPropertiesField", errorOf([&] { p.setProperty(u"Owner", u"x"); }));
+        EXPECT_EQ("deckforge:ppt_error:invalidPropertyValue", errorOf([&] { p.setProperty(u"Created", u"May"); }));
+        ASSERT_TRUE(p.close());
+    }
+    std::size_t coreRelationships = 0;
+    for (auto const& relationship : ppt::OPCPartReader(out("props.pptx")).getRelationships())
+        coreRelationships += relationship.getType().find(u"core-properties") != u16string::npos;
+    EXPECT_EQ(1u, coreRelationships);
+    PartGraph const graph = partGraph(dir / "props.pptx");
+    EXPECT_TRUE(graph.dangling.empty());
+    Presentation again(out("again.pptx"), out("props.pptx"));
+    EXPECT_EQ(u"Kept", again.getProperties()[0].second);
+}
+
 }  // namespace
 }  // namespace test
 }  // namespace deckforge
