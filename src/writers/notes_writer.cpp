@@ -1,5 +1,7 @@
 #include "writers/notes_writer.h"
 
+#include <algorithm>
+
 #include <xercesc/dom/DOM.hpp>
 
 #include "platform/opc/opc.h"
@@ -93,9 +95,12 @@ std::string NotesWriter::notesSlideXml(NotesParagraphs const& paragraphs) {
            "</p:spTree></p:cSld><p:clrMapOvr><a:masterClrMapping/></p:clrMapOvr></p:notes>";
 }
 
-std::string NotesWriter::notesMasterXml() {
+std::string NotesWriter::notesMasterXml(long slideWidth, long slideHeight) {
     // A portrait page of 7.5 by 10 inches, the usual notes size: the slide
-    // image above, the notes below.
+    // image above, 3.75 inches high and centred, the notes below.
+    long const imageHeight = 3429000;
+    long imageWidth = slideWidth > 0 && slideHeight > 0 ? imageHeight * slideWidth / slideHeight : 4572000;
+    imageWidth = std::min(imageWidth, 6858000L - 2 * 228600);
     std::string const style =
         "<a:defRPr sz=\"1200\" kern=\"1200\"><a:solidFill><a:schemeClr val=\"tx1\"/></a:solidFill>"
         "<a:latin typeface=\"+mn-lt\"/><a:ea typeface=\"+mn-ea\"/><a:cs typeface=\"+mn-cs\"/></a:defRPr>";
@@ -112,7 +117,7 @@ std::string NotesWriter::notesMasterXml() {
            kGroupProperties +
            placeholder(2, "Slide Image Placeholder 1", "<p:ph type=\"sldImg\" idx=\"2\"/>",
                        "noGrp=\"1\" noRot=\"1\" noChangeAspect=\"1\"",
-                       rectangle(1143000, 685800, 4572000, 3429000) +
+                       rectangle((6858000 - imageWidth) / 2, 685800, imageWidth, imageHeight) +
                            "<a:noFill/><a:ln w=\"12700\"><a:solidFill><a:prstClr val=\"black\"/></a:solidFill></a:ln>",
                        "") +
            placeholder(3, "Notes Placeholder 2", "<p:ph type=\"body\" sz=\"quarter\" idx=\"3\"/>", "noGrp=\"1\"",
@@ -153,7 +158,20 @@ u16string NotesWriter::notesMaster() {
 
     u16string const masterName = parts.newPartName(u"/ppt/notesMasters/notesMaster", u".xml");
     opc::model::Part master = parts.createPart(masterName, kNotesMasterType);
-    writePart(master, notesMasterXml());
+    long width = 0, height = 0;
+    if (xercesc::DOMDocument* document = model.getPresentationDocument()) {
+        xercesc::DOMElement* size =
+            PresentationModel::findChildElement(document->getDocumentElement(), u"p:sldSz");
+        try {
+            if (size) {
+                width = str2long(u16string(size->getAttribute(u"cx")));
+                height = str2long(u16string(size->getAttribute(u"cy")));
+            }
+        } catch (...) {
+            width = height = 0;  // a size that is no number: the 4:3 image
+        }
+    }
+    writePart(master, notesMasterXml(width, height));
     master.createInternalRelationship(relationshipType(u"theme"), opc::model::URI(themeName), u"");
     u16string const id =
         presentation.createInternalRelationship(masterType, opc::model::URI(masterName), u"").getID();

@@ -24,7 +24,8 @@ public:
     // The notes slide markup of the paragraphs: a slide image placeholder
     // and a body placeholder that holds them.
     static std::string notesSlideXml(NotesParagraphs const& paragraphs);
-    static std::string notesMasterXml();
+    // The slide image keeps the slide's proportions (cx by cy).
+    static std::string notesMasterXml(long slideWidth, long slideHeight);
 
 private:
     // The presentation's notes master part, made if it has none.
