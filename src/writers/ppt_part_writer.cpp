@@ -101,15 +101,19 @@ u16string PPTPartWriter::mediaPartFor(std::string const& bytes, u16string const&
     // image once.
     std::size_t const hash = std::hash<std::string>()(bytes);
     auto const range = mediaByHash.equal_range(hash);
-    for (auto it = range.first; it != range.second; ++it)
-        if (it->second.second == bytes && hasPart(it->second.first)) return it->second.first;
+    for (auto it = range.first; it != range.second; ++it) {
+        if (!hasPart(it->second)) continue;
+        auto stored = getPart(it->second).getInputStream();
+        if (opc::StreamHelper::readAll(*stored, opc::interfaces::IPhysicalPackage::kMaxItemSize) == bytes)
+            return it->second;
+    }
 
     u16string const name = newMediaName(extension);
     opc::model::Part media = createPart(name, contentType);
     boost::shared_ptr<opc::OutputStream> output = media.getOutputStream();
     output->write(bytes.data(), bytes.size());
     output->close();
-    mediaByHash.emplace(hash, std::make_pair(name, bytes));
+    mediaByHash.emplace(hash, name);
     return name;
 }
 

@@ -55,8 +55,9 @@ private:
     std::uint64_t slideNumber = 0;
     std::uint64_t mediaNumber = 0;
     std::map<u16string, std::uint64_t> partNumbers;
-    // Media parts written in this pass, by the hash of their bytes.
-    std::multimap<std::size_t, std::pair<u16string, std::string>> mediaByHash;
+    // Media parts written in this pass, by the hash of their bytes; a hit
+    // is compared with the part's bytes, so that no image stays in memory.
+    std::multimap<std::size_t, u16string> mediaByHash;
 };
 
 }  // namespace ppt
