@@ -50,6 +50,7 @@ class SlideOperations : public PresentationTest {};
 // and layouts use stays.
 TEST_F(SlideOperations, RemovingEverySlideLeavesNoOrphanPart) {
     auto const source = realTemplates() / "ppt2016_various2-everything.pptx";
+    if (!std::filesystem::exists(source)) GTEST_SKIP() << source;
     PartGraph const before = partGraph(source);
     ASSERT_GT(countUnder(before.parts, u"/ppt/charts/"), 0u);
     ASSERT_GT(countUnder(before.parts, u"/ppt/embeddings/"), 0u);
@@ -73,6 +74,7 @@ TEST_F(SlideOperations, RemovingEverySlideLeavesNoOrphanPart) {
 // charts of their own; removing an original leaves its copy whole.
 TEST_F(SlideOperations, CopiesShareMediaAndOwnTheirCharts) {
     auto const source = realTemplates() / "pythonpptx_default-generated.pptx";
+    if (!std::filesystem::exists(source)) GTEST_SKIP() << source;
     PartGraph const before = partGraph(source);
     Presentation p(out("copies.pptx"), source.u16string());
     p.open();
@@ -93,6 +95,7 @@ TEST_F(SlideOperations, CopiesShareMediaAndOwnTheirCharts) {
 // their own, '' removes them, and a template without a notes master gets one.
 TEST_F(SlideOperations, NotesAreKeptChangedAndRemoved) {
     auto const source = realTemplates() / "pandoc_speaker-notes.pptx";
+    if (!std::filesystem::exists(source)) GTEST_SKIP() << source;
     std::vector<u16string> original;
     {
         Presentation p(out("notes.pptx"), source.u16string());
