@@ -4,13 +4,12 @@
 // written, and what only it reached is swept from the package.
 #include <regex>
 
-#include <xercesc/dom/DOM.hpp>
-
 #include "engine/presentation.h"
 #include "messages/message.h"
 #include "platform/msg_ids.h"
 #include "template/core_properties.h"
 #include "template/presentation_model.h"
+#include "template/slide_copy.h"
 
 namespace deckforge {
 namespace ppt {
@@ -31,30 +30,6 @@ PPTNodeList withoutChild(PPTNodeList const& children, PPTObjectImpl const* child
     for (auto const& node : children)
         if (node && node->getImpl() != child) rest.push_back(node);
     return rest;
-}
-
-// A new record for a copy of the slide. A slide made from a layout is made
-// again from it at close, so the copy needs only a record of its own; a
-// template slide's copy takes a clone of its document now, before any
-// writer changes the original, and the original part's relationships at
-// close.
-boost::shared_ptr<TemplateSlide> copyRecord(PresentationModel const& model, TemplateSlide const& source) {
-    if (source.fromLayout) {
-        auto copy = model.createSlideRecord(source.layout);
-        if (copy) copy->nextShapeId = std::max(copy->nextShapeId, source.nextShapeId);
-        return copy;
-    }
-    auto copy = boost::make_shared<TemplateSlide>();
-    copy->layout = source.layout;
-    copy->shapes = source.shapes;
-    copy->name = source.name;
-    copy->nextShapeId = source.nextShapeId;
-    copy->copiedFromPartName = source.partName.empty() ? source.copiedFromPartName : source.partName;
-    if (source.document) {
-        copy->setDocument(static_cast<xercesc::DOMDocument*>(source.document->cloneNode(true)));
-        PresentationModel::indexShapeElements(*copy);
-    }
-    return copy;
 }
 
 // W3CDTF, the profile of ISO 8601 that the core properties hold: a year,
@@ -96,13 +71,7 @@ Slide PresentationImpl::duplicateSlide(PPTNode const& slide, std::size_t const* 
     auto* copyImpl = static_cast<SlideImpl*>(copy->getImpl());
     copyImpl->setName(impl->getName());
     if (impl->getTemplateSlide() && mModel) {
-        TemplateSlide const& source = *impl->getTemplateSlide();
-        boost::shared_ptr<TemplateSlide> record = copyRecord(*mModel, source);
-        if (record) {
-            record->notes = source.notes;
-            record->notesChanged = !source.notes.empty();
-        }
-        copyImpl->setTemplateSlide(record);
+        copyImpl->setTemplateSlide(copySlideRecord(*mModel, *impl->getTemplateSlide()));
     }
     std::size_t position = 0;
     if (index) {

@@ -47,10 +47,13 @@ u16string PPTPartWriter::newPartName(u16string const& prefix, u16string const& s
     return name;
 }
 
-u16string PPTPartWriter::copyPart(u16string const& source, u16string const& prefix) {
+u16string PPTPartWriter::copyPart(u16string const& source, bool ownParts) {
     opc::model::Part from = getPart(source);
-    u16string const name = source.substr(source.rfind(u'.'));
-    u16string const copyName = newPartName(prefix, name);
+    // "/ppt/charts/chart3.xml" gives the prefix "/ppt/charts/chart" and the suffix ".xml".
+    std::size_t const dot = source.rfind(u'.') > source.rfind(u'/') ? source.rfind(u'.') : source.size();
+    std::size_t stem = dot;
+    while (stem > 0 && source[stem - 1] >= u'0' && source[stem - 1] <= u'9') --stem;
+    u16string const copyName = newPartName(source.substr(0, stem), source.substr(dot));
     opc::model::Part to = createPart(copyName, from.getContentType().toString());
     auto in = from.getInputStream();
     auto out = to.getOutputStream();
@@ -59,6 +62,11 @@ u16string PPTPartWriter::copyPart(u16string const& source, u16string const& pref
     for (auto const& relationship : from.getRelationships()) {
         if (relationship.getTargetMode() == opc::model::TargetModeExternal)
             to.createExternalRelationship(relationship.getType(), relationship.getTarget(), relationship.getID());
+        else if (ownParts && relationship.getType() != kImageRelationship &&
+                 hasPart(relationship.getTargetURI().getPath()))
+            to.createInternalRelationship(relationship.getType(),
+                                          opc::model::URI(copyPart(relationship.getTargetURI().getPath(), false)),
+                                          relationship.getID());
         else
             to.createInternalRelationship(relationship.getType(), relationship.getTargetURI(),
                                           relationship.getID());
@@ -79,7 +87,7 @@ u16string PPTPartWriter::addSlideCopy(boost::shared_ptr<TemplateSlide> const& sl
             continue;
         }
         u16string target = relationship.getTargetURI().getPath();
-        if (type == kChartRelationship && hasPart(target)) target = copyPart(target, u"/ppt/charts/chart");
+        if (type == kChartRelationship && hasPart(target)) target = copyPart(target, true);
         part.createInternalRelationship(type, opc::model::URI(target), relationship.getID());
     }
     return name;

@@ -27,8 +27,9 @@ public:
     u16string addSlide(boost::shared_ptr<TemplateSlide> const& slide);
     // The same for a copy of a slide: the new part takes the relationships
     // of the slide copied, with their ids, so that the copied markup finds
-    // its pictures and links. Its notes are the copy's own; a chart gets a
-    // part of its own, as editing one copy's data must not change the other.
+    // its pictures and links. Its notes are the copy's own; a chart gets
+    // parts of its own (its workbook too), as editing one copy's data must
+    // not change the other.
     u16string addSlideCopy(boost::shared_ptr<TemplateSlide> const& slide);
     // The first free "<prefix>N<suffix>", counting on from the last one
     // given for that prefix.
@@ -49,8 +50,11 @@ private:
     // The media part for the image's bytes, made if there is none yet.
     u16string mediaPartFor(std::string const& bytes, u16string const& extension, u16string const& contentType);
 
-    // A new part with the content and relationships of `source`.
-    u16string copyPart(u16string const& source, u16string const& prefix);
+    // A new part with the content and relationships of `source`, named as
+    // it is with the next free number. With `ownParts`, the parts it
+    // relates to are copied as well (a chart's workbook, style and
+    // colours), except pictures, which stay shared.
+    u16string copyPart(u16string const& source, bool ownParts);
 
     std::uint64_t slideNumber = 0;
     std::uint64_t mediaNumber = 0;

@@ -89,6 +89,7 @@ TEST_F(SlideOperations, CopiesShareMediaAndOwnTheirCharts) {
     EXPECT_EQ(2 * slides.size() - 1, static_cast<std::size_t>(slideIdCount(dir / "copies.pptx")));
     EXPECT_EQ(countUnder(before.parts, u"/ppt/media/"), countUnder(after.parts, u"/ppt/media/"));
     EXPECT_EQ(2 * countUnder(before.parts, u"/ppt/charts/chart"), countUnder(after.parts, u"/ppt/charts/chart"));
+    EXPECT_EQ(2 * countUnder(before.parts, u"/ppt/embeddings/"), countUnder(after.parts, u"/ppt/embeddings/"));
 }
 
 // Notes of template slides are read and kept; changed ones get a part of
