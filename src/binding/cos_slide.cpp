@@ -65,7 +65,7 @@ class CosSlide : public CosPPTObjectClassInfo {
 public:
     CosSlide() : CosPPTObjectClassInfo("Slide") {}
     void initializeClass(ClassDescription& cls) const override {
-        cls.setHelp("A slide of a presentation, made by the presentation's add.");
+        cls.setHelp("A slide of a presentation, made by the presentation's add or duplicate.");
         cls.addSuperclass("deckforge.ppt.Element");
         cls.addProperty("Layout", "text", getter(&Slide::getLayoutName), nullptr, "The slide's layout.");
         cls.addProperty("SlideMaster", "text", getter(&Slide::getSlideMasterName), nullptr,
