@@ -100,16 +100,16 @@ for k = 1:numel (cases)
   decks{end+1} = out;
 end
 
-% The preview of every real template that is itself schema-valid validates;
-% a few are rendered with one page per layout.
+% The preview of every real template validates; a few are rendered with one
+% page per layout.
+[passes, tests] = test (fullfile (fileparts (which ('deckforge.ppt.Presentation')), 'preview.m'), 'quiet');
+assert (tests > 0 && passes == tests, 'the tests of preview.m fail');
 files = dir (fullfile (real, '*.p*x'));
 rendered = {'gslides_074.pptx', 'ppt2016mac_mecanon-2masters.potx', 'lo248_chartbar-it.pptx'};
 layoutsOf = struct ();
 for k = 1:numel (files)
   template = fullfile (real, files(k).name);
-  if strncmp (files(k).name, 'corrupt_', 8) || system (sprintf ('"%s" "%s" >/dev/null 2>&1', validator, template)) != 0
-    continue;
-  end
+  if strncmp (files(k).name, 'corrupt_', 8), continue; end
   out = deckforge.ppt.preview (template, fullfile (pwd, ['preview-' regexprep(files(k).name, '\.\w+$', '.pptx')]));
   if exist (validator, 'file')
     [status, output] = system (sprintf ('"%s" "%s" 2>&1', validator, out));

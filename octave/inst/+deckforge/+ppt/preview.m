@@ -27,7 +27,12 @@ function out = preview (template, output)
     p.remove (old{k});
   end
   for k = 1:numel (layouts)
-    s = p.add (layouts(k).Layout, layouts(k).Master);
+    try
+      s = p.add (layouts(k).Layout, layouts(k).Master);
+    catch
+      % Two masters of one name (their themes') can't be told apart by it.
+      s = p.add (layouts(k).Layout);
+    end
     ph = layouts(k).Placeholders;
     names = arrayfun (@(x) x.Name, ph, 'UniformOutput', false);
     roles = arrayfun (@(x) x.Role, ph, 'UniformOutput', false);
@@ -44,6 +49,7 @@ function out = preview (template, output)
         hits{1}.replace (label);
       elseif ! isempty (ph(i).Width) && ! isempty (ph(i).Height)
         box = deckforge.ppt.TextBox ();
+        box.FontSize = '9pt';     % date and slide number boxes are small
         box.X = ph(i).X;  box.Y = ph(i).Y;  box.Width = ph(i).Width;  box.Height = ph(i).Height;
         box.add (label);
         s.add (box);
@@ -60,8 +66,10 @@ end
 %! unwind_protect
 %!   assert (strcmp (deckforge.ppt.preview (template, out), out));
 %!   p = deckforge.ppt.Presentation (tempname (), out);
-%!   assert (numel (p.Children) == numel (p.describe ()));
-%!   assert (strcmp (p.Children{2}.find ('Title'){1}.Children{1}.Children{1}.Content, 'Title - Title'));
+%!   d = p.describe ();
+%!   assert (numel (p.Children) == numel (d));
+%!   [status, xml] = system (sprintf ('unzip -p "%s" "ppt/slides/*.xml"', out));
+%!   assert (status == 0 && ! isempty (strfind (xml, '>Title - Title<')));
 %! unwind_protect_cleanup
 %!   delete (out);
 %! end_unwind_protect
