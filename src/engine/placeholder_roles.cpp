@@ -1,6 +1,7 @@
 #include "engine/placeholder_roles.h"
 
 #include <cmath>
+#include <cstdlib>
 #include <cstdio>
 #include <string_view>
 
