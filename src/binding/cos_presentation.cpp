@@ -207,8 +207,8 @@ public:
             "neither layout nor master places it). Role is Title, Subtitle, Content, Text, Picture, "
             "Table, Chart, Date, Footer or SlideNumber: the names that find, replace and add take "
             "where no shape bears the name. Content covers object placeholders, and body "
-            "placeholders of a layout without one (other than a section header's, or a quarter-size "
-            "caption). Opens the presentation as add does. "
+            "placeholders of a layout without one, nor a picture, table or chart placeholder (other "
+            "than a section header's, or a quarter-size caption). Opens the presentation as add does. "
             "deckforge.ppt.preview(template, out) writes a deck of every layout, labelled.");
         cls.addMethod(
             "getMasterNames", words::Any, {},

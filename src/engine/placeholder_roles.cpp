@@ -74,8 +74,12 @@ bool isObjectType(u16string const& type) {
 // Whether the body placeholders of the layout hold its content (see the header).
 bool bodyIsContent(TemplateLayout const& layout) {
     if (layout.type == u"secHead") return false;
-    for (DOMElement* shape : placeholdersOf(layout.document))
-        if (isObjectType(attribute(placeholderOf(shape), u"type"))) return false;
+    for (DOMElement* shape : placeholdersOf(layout.document)) {
+        u16string const type = attribute(placeholderOf(shape), u"type");
+        if (isObjectType(type) || type == u"pic" || type == u"clipArt" || type == u"tbl" ||
+            type == u"chart" || type == u"dgm" || type == u"media")
+            return false;
+    }
     return true;
 }
 

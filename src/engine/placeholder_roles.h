@@ -10,8 +10,10 @@
 //   Picture      pic, clipArt
 //   Table, Chart, Date, Footer, SlideNumber, Diagram, Media, Header
 // A body placeholder holds the content of its slide when the layout has no
-// object placeholder of its own (LibreOffice and Google Slides give their
-// "Title, Content" layouts body placeholders), unless the layout is a
+// placeholder for content of its own, neither an object placeholder nor a
+// picture, table, chart, diagram or media one (LibreOffice and Google Slides
+// give their "Title, Content" layouts body placeholders; a caption beside a
+// picture is text), unless the layout is a
 // section header, whose body is a line of text under the heading, or the
 // placeholder is a quarter-size one, which PowerPoint's layouts use for
 // headings and captions beside content.
