@@ -84,14 +84,18 @@ void addContentByNameMethods(ClassDescription& cls) {
             c.self<Root>().add(c.text(0), c.object<Paragraph>(1));
             return Value();
         },
-        "add(name, paragraph): the paragraph (copies after the first) to each box of that name.");
+        "add(name, paragraph): the paragraph (copies after the first) to each box of that name."
+        " A role (Title, Subtitle, Content, Text, 'Content 2'...) names the placeholder of that role"
+        " where no shape bears the name; see find.");
     cls.addMethod(
         "replace", words::Void, {words::String, words::String},
         [](Call& c) {
             c.self<Root>().replace(c.text(0), c.text(1));
             return Value();
         },
-        "replace(name, text): the text becomes the only content of each box of that name.");
+        "replace(name, text): the text becomes the only content of each box of that name."
+        " A role (Title, Subtitle, Content, Text, 'Content 2'...) names the placeholder of that role"
+        " where no shape bears the name; see find.");
     cls.addMethod(
         "replace", words::Void, {words::String, kParagraph},
         [](Call& c) {

@@ -35,6 +35,34 @@ Value propertiesResult(Presentation presentation) {
     return Value(std::move(properties));
 }
 
+hvArray textArray(u16string const& text) {
+    return Value::text(text).array();
+}
+
+// A struct row, one element per layout; each Placeholders a struct row too
+// (an empty struct where the layout has none).
+Value describeResult(std::vector<LayoutDescription> const& layouts) {
+    hvArray result(hvClassID::Struct, layouts.empty() ? 0 : 1, layouts.size());
+    for (std::size_t i = 0; i < layouts.size(); ++i) {
+        auto const& placeholders = layouts[i].placeholders;
+        hvArray list(hvClassID::Struct, placeholders.empty() ? 0 : 1, placeholders.size());
+        for (std::size_t k = 0; k < placeholders.size(); ++k) {
+            auto const& ph = placeholders[k];
+            list.setField(k, "Name", textArray(ph.name));
+            list.setField(k, "Role", textArray(ph.role));
+            list.setField(k, "Index", Value::number(ph.index).array());
+            list.setField(k, "X", textArray(ph.x));
+            list.setField(k, "Y", textArray(ph.y));
+            list.setField(k, "Width", textArray(ph.width));
+            list.setField(k, "Height", textArray(ph.height));
+        }
+        result.setField(i, "Master", textArray(layouts[i].master));
+        result.setField(i, "Layout", textArray(layouts[i].layout));
+        result.setField(i, "Placeholders", std::move(list));
+    }
+    return Value(std::move(result));
+}
+
 // Fields are checked before any is set, so a bad struct changes nothing.
 void setProperties(PPTObject const& self, Value const& value) {
     if (!value.isArray() || value.array().classID() != hvClassID::Struct || value.numel() != 1)
@@ -84,7 +112,8 @@ public:
                         "The file that close writes; fixed once the presentation is open.");
         cls.addProperty(
             "Properties", "struct",
-            [](PPTObject const& self) { return propertiesResult(Presentation(self.getImpl())); }, setProperties,
+            [](PPTObject const& self) { return propertiesResult(Presentation(self.getImpl())); },
+            setProperties,
             "The document properties: a struct of Title, Subject, Author, Keywords, Description, "
             "Category, LastModifiedBy, Created and Modified (ISO 8601 text, as '2024-05-01T09:00:00Z'). "
             "Assigning a struct sets the fields it has:  p.Properties = struct('Title', 'Results'); "
@@ -99,7 +128,10 @@ public:
         cls.addMethod(
             "find", words::NodeVector, {words::String},
             [](Call& c) { return toScript(c.self<Presentation>().find(c.text(0))); },
-            "The nodes of that name, as a cell row; [] if none.");
+            "The nodes of that name, as a cell row; [] if none. Where no shape of the deck bears the "
+            "name, a role reaches each slide's placeholder of that role: Title, Subtitle, Content, "
+            "Text, Picture, Table, Chart, Date, Footer, SlideNumber, and 'Content 2' the second one "
+            "(see describe).");
         cls.addMethod(
             "add", kSlide, {words::String},
             [](Call& c) { return slideResult(c.self<Presentation>().add(c.text(0))); },
@@ -166,6 +198,18 @@ public:
         // By name, on every slide. There is no add(name, text): two texts
         // name a layout and its master.
         addContentByNameMethods<Presentation>(cls);
+        cls.addMethod(
+            "describe", words::Any, {},
+            [](Call& c) { return describeResult(c.self<Presentation>().describe()); },
+            "d = describe(): what the template offers, a struct row with one element per layout of "
+            "every master: Master, Layout and Placeholders, a struct row of Name, Role, Index (the "
+            "placeholder's idx), X, Y, Width and Height (lengths as text, '2.54cm'; empty where "
+            "neither layout nor master places it). Role is Title, Subtitle, Content, Text, Picture, "
+            "Table, Chart, Date, Footer or SlideNumber: the names that find, replace and add take "
+            "where no shape bears the name. Content covers object placeholders, and body "
+            "placeholders of a layout without one, nor a picture, table or chart placeholder (other "
+            "than a section header's, or a quarter-size caption). Opens the presentation as add does. "
+            "deckforge.ppt.preview(template, out) writes a deck of every layout, labelled.");
         cls.addMethod(
             "getMasterNames", words::Any, {},
             [](Call& c) { return toScript(c.self<Presentation>().getMasterNames()); },

@@ -79,7 +79,14 @@ public:
         cls.addMethod(
             "find", words::NodeVector, {words::String},
             [](Call& c) { return toScript(c.self<Slide>().find(c.text(0))); },
-            "The nodes of that name on the slide, as a cell row; [] if none.");
+            "The nodes of that name on the slide, as a cell row; [] if none. Where no shape bears the "
+            "name, a role gives the layout's placeholder of that role: Title (title or centred "
+            "title), Subtitle, Content (object placeholders, and body placeholders of a content "
+            "slot), Text (other body placeholders), Picture, Table, Chart, Date, Footer, SlideNumber; "
+            "'Content 2' the second of its role, in the layout's order. An exact name always wins. "
+            "Chart, date, footer and slide number placeholders keep the template's content and are "
+            "no nodes, so their roles find nothing on a slide. Presentation.describe lists the names "
+            "and roles of every layout.");
         cls.addMethod(
             "add", kTextBox, {kTextBox},
             [](Call& c) {
@@ -108,7 +115,8 @@ public:
                 c.self<Slide>().add(c.text(0), c.text(1));
                 return Value();
             },
-            "add(name, text): a paragraph of the text after the others in each box of that name.");
+            "add(name, text): a paragraph of the text after the others in each box of that name, or "
+            "in the placeholder of that role (see find).");
         addContentByNameMethods<Slide>(cls);
     }
 };

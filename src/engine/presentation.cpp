@@ -4,6 +4,7 @@
 
 #include "common/file_utils.h"
 #include "engine/named_content.h"
+#include "engine/placeholder_roles.h"
 #include "engine/template_parser.h"
 #include "messages/message.h"
 #include "messages/message_dispatcher.h"
@@ -355,7 +356,18 @@ PPTNodeList PresentationImpl::find(u16string const& name) {
     open();
     PPTNodeList result;
     findNodes(name, makeInterface(), result);
+    if (!result.empty()) return result;
+    // No shape of the deck bears the name: a role name reaches its
+    // placeholder on each slide.
+    for (auto const& child : getChildren()) {
+        if (auto slide = Slide::cast(child)) slide->slideImpl()->findRole(name, result);
+    }
     return result;
+}
+
+std::vector<LayoutDescription> PresentationImpl::describe() {
+    open();
+    return mModel ? describeLayouts(*mModel) : std::vector<LayoutDescription>();
 }
 
 // find() opens, so none of these needs an open presentation.

@@ -12,6 +12,7 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include "engine/placeholder_roles.h"
 #include "engine/ppt_node.h"
 #include "engine/slide.h"
 
@@ -92,7 +93,12 @@ public:
     // (style name, style id) pairs, read from the model once.
     std::vector<std::pair<u16string, u16string>> const& getTableStyleNames();
 
-    // Nodes of that name on all slides; opens first. The operations by name
+    // Every layout of every master with its placeholders; opens first.
+    std::vector<LayoutDescription> describe();
+
+    // Nodes of that name on all slides; opens first. When no shape of the
+    // deck bears the name, a role name gives each slide's placeholder of
+    // that role (engine/placeholder_roles.h). The operations by name
     // (adding a paragraph, replacing content) go over these hits in order
     // and dispatch on each hit's NodeType.
     PPTNodeList find(u16string const& name);
@@ -199,6 +205,7 @@ public:
     }
 
     PPTNodeList find(u16string const& name) { return presentationImpl()->find(name); }
+    std::vector<LayoutDescription> describe() { return presentationImpl()->describe(); }
     void add(u16string const& name, Paragraph const& paragraph) { presentationImpl()->add(name, paragraph); }
     void replace(u16string const& name, u16string const& text) { presentationImpl()->replace(name, text); }
     void replace(u16string const& name, Paragraph const& paragraph) {

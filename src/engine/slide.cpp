@@ -1,6 +1,7 @@
 #include "engine/slide.h"
 
 #include "engine/named_content.h"
+#include "engine/placeholder_roles.h"
 #include "nodes/body_placeholder.h"
 #include "nodes/content_placeholder.h"
 #include "nodes/group.h"
@@ -127,7 +128,14 @@ void SlideImpl::appendShapeNodes(PPTNodeImpl& parent, TemplateShapeList const& s
 PPTNodeList SlideImpl::find(u16string const& name) {
     PPTNodeList result;
     findNodes(name, makeInterface(), result);
+    if (result.empty()) findRole(name, result);
     return result;
+}
+
+void SlideImpl::findRole(u16string const& name, PPTNodeList& result) {
+    u16string role;
+    std::size_t ordinal = 0;
+    if (parseRoleName(name, role, ordinal)) findByRole(*this, role, ordinal, result);
 }
 
 void SlideImpl::add(u16string const& name, u16string const& text) {

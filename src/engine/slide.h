@@ -63,7 +63,11 @@ public:
                                  std::vector<boost::shared_ptr<TemplateShape>> const& shapes);
 
     // Nodes of that name below this slide; the slide itself is no hit.
+    // When no shape bears the name, a role name ("Title", "Content 2", see
+    // engine/placeholder_roles.h) gives the placeholder of that role.
     PPTNodeList find(u16string const& name);
+    // Appends the placeholder that a role name stands for, if any.
+    void findRole(u16string const& name, PPTNodeList& result);
 
     // The operations by name over find(name), as on a presentation (see
     // engine/named_content.h). A name that finds nothing is no error.

@@ -546,16 +546,18 @@ void PresentationModel::writePresentationPart(PartDocumentWriter& partWriter,
     for (DOMElement* sldId : elementsByTagName(presentationDocument, u"p:sldId")) {
         if (list && sldId->getParentNode() == list) list->removeChild(sldId);
     }
-    if (!list) {
-        // The list follows the master, notes master and handout master lists,
-        // which is where the schema wants it; PowerPoint refuses other orders.
+    // The list follows the master, notes master and handout master lists,
+    // which is where the schema wants it; PowerPoint refuses other orders,
+    // and some writers put a template's own list before the notes master's.
+    if (list)
+        root->removeChild(list);
+    else
         list = presentationDocument->createElement(u"p:sldIdLst");
-        DOMElement* before = root->getFirstElementChild();
-        while (before && (hasName(before, u"p:sldMasterIdLst") || hasName(before, u"p:notesMasterIdLst") ||
-                          hasName(before, u"p:handoutMasterIdLst")))
-            before = before->getNextElementSibling();
-        root->insertBefore(list, before);
-    }
+    DOMElement* before = root->getFirstElementChild();
+    while (before && (hasName(before, u"p:sldMasterIdLst") || hasName(before, u"p:notesMasterIdLst") ||
+                      hasName(before, u"p:handoutMasterIdLst")))
+        before = before->getNextElementSibling();
+    root->insertBefore(list, before);
 
     opc::model::Part presentationPart;
     bool havePart = false;
