@@ -36,6 +36,17 @@ public:
     // measuring (the host's, or failedToDetermineFilename) leaves the
     // picture as it was.
     void setPath(u16string const& path);
+    // Prints the figure of a host figure or axes handle to an SVG file of
+    // the picture's own, removed when no picture holds it any more; Width
+    // and Height become the figure's paper size. invalidFigureHandle for
+    // any other value, figureNotPrinted when no file came of it; the
+    // host's own errors pass through. The picture is unchanged on error.
+    void setFigure(double handle);
+
+    // Dots per inch of the bitmap that stands beside an SVG picture, at the
+    // picture's width; invalidPropertyValue unless positive and finite.
+    double getResolution() const { return mResolution; }
+    void setResolution(double dotsPerInch);
 
     // A copy of `picture`'s image takes this picture's place among the
     // slide's children and is returned. A picture in a group, or not among
@@ -48,6 +59,9 @@ public:
 
 protected:
     u16string mPath;
+    double mResolution = 200.0;
+    // The file printed from a figure, shared with copies and successors.
+    boost::shared_ptr<void> mOwnedFile;
 };
 
 class Picture : public Shape {
@@ -62,6 +76,10 @@ public:
 
     u16string const& getPath() const { return pictureImpl()->getPath(); }
     void setPath(u16string const& path) { pictureImpl()->setPath(path); }
+    // A picture of the figure of a host figure or axes handle, as SVG.
+    static Picture fromFigure(double handle);
+    double getResolution() const { return pictureImpl()->getResolution(); }
+    void setResolution(double dotsPerInch) { pictureImpl()->setResolution(dotsPerInch); }
     Picture replace(Picture const& picture) { return pictureImpl()->replace(picture); }
     using Shape::replace;
 
