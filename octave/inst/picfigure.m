@@ -20,11 +20,6 @@ function size = picfigure (h, file)
       return;
   endswitch
 
-  units = get (fig, "paperunits");
-  set (fig, "paperunits", "inches");
-  position = get (fig, "paperposition");
-  set (fig, "paperunits", units);
-
   ## Without a display gnuplot is the only toolkit, and SVG needs no
   ## Ghostscript: both warnings say nothing to the caller.
   state = warning ();
@@ -32,6 +27,12 @@ function size = picfigure (h, file)
   warning ("off", "Octave:gnuplot-graphics");
   warning ("off", "print:nogs");
   print (fig, "-dsvg", file);
+  ## Read after printing: a figure never drawn has no settled paper
+  ## position before.
+  units = get (fig, "paperunits");
+  set (fig, "paperunits", "inches");
+  position = get (fig, "paperposition");
+  set (fig, "paperunits", units);
 
   ## gnuplot writes Octave's default font as an empty family and a bold one
   ## as ":Bold"; readers then fall back to a serif font. The text stays text.

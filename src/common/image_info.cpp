@@ -247,6 +247,9 @@ bool svgStartTag(u16string const& path, std::string& tag) {
     in.read(head.data(), static_cast<std::streamsize>(head.size()));
     head.resize(static_cast<std::size_t>(in.gcount()));
     for (std::size_t at = head.find("<svg"); at != std::string::npos; at = head.find("<svg", at + 1)) {
+        // Inside a comment is no element.
+        std::size_t const comment = head.rfind("<!--", at);
+        if (comment != std::string::npos && head.find("-->", comment) > at) continue;
         char const next = at + 4 < head.size() ? head[at + 4] : '\0';
         if (!std::isspace(static_cast<unsigned char>(next)) && next != '>' && next != '/') continue;
         std::size_t const end = head.find('>', at);
