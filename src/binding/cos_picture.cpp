@@ -26,12 +26,13 @@ public:
     CosPicture() : CosPPTObjectClassInfo("Picture") {}
     void initializeClass(ClassDescription& cls) const override {
         cls.setHelp(
-            "A picture from an image file (PNG, JPEG, GIF, BMP, TIFF, SVG, EMF), or\n"
-            "of an Octave figure, printed as SVG (hidden figures too, no display needed).\n"
+            "A picture from an image file (PNG, JPEG, GIF, BMP, TIFF, SVG, EMF), an\n"
+            "image array, or an Octave figure, printed as SVG (hidden figures too, no display needed).\n"
             "Its size defaults to the image's own, a figure's paper size; set Width or\n"
             "Height to change it. SVG pictures carry a PNG for readers without SVG.\n"
             "  pic = deckforge.ppt.Picture('plot.png');\n"
             "  pic = deckforge.ppt.Picture(gcf);        % a figure (or axes) handle\n"
+            "  pic = deckforge.ppt.Picture(imread('photo.jpg'));  % an image array, as PNG\n"
             "  slide.add(pic);                       % on a slide\n"
             "  deck.find('Picture'){1}.replace(pic); % in place of a picture placeholder");
         cls.addSuperclass("deckforge.ppt.Shape");
@@ -42,6 +43,14 @@ public:
         cls.addConstructor(
             {words::Double}, [](Call& c) { return Picture::fromFigure(c.number(0)); },
             "Picture(figureHandle)");
+        cls.addConstructor(
+            {words::Any},
+            [](Call& c) {
+                Value const& image = c.raw(0);
+                if (!image.isArray()) raise<ppt_error::invalidImageArg>();
+                return Picture::fromImage(image.array());
+            },
+            "Picture(image): an m-by-n or m-by-n-by-3 array, as imread gives, written as PNG");
         cls.addProperty("Path", "text", getter(&Picture::getPath), nullptr, "The image file.");
         cls.addProperty("Resolution", "double", getter(&Picture::getResolution), &setResolution,
                         "Dots per inch of the PNG that stands beside an SVG picture (default 200).");

@@ -6,6 +6,8 @@
 
 #include "nodes/shape.h"
 
+class hvArray;
+
 namespace deckforge {
 namespace ppt {
 
@@ -42,6 +44,11 @@ public:
     // any other value, figureNotPrinted when no file came of it; the
     // host's own errors pass through. The picture is unchanged on error.
     void setFigure(double handle);
+    // Writes an image array (m-by-n grey or m-by-n-by-3 RGB; uint8, uint16,
+    // double or single from 0 to 1, or logical) to a PNG file of the
+    // picture's own and takes it as the path; invalidImageArg for any other
+    // array.
+    void setImage(hvArray const& image);
 
     // Dots per inch of the bitmap that stands beside an SVG picture, at the
     // picture's width; invalidPropertyValue unless positive and finite.
@@ -78,6 +85,8 @@ public:
     void setPath(u16string const& path) { pictureImpl()->setPath(path); }
     // A picture of the figure of a host figure or axes handle, as SVG.
     static Picture fromFigure(double handle);
+    // A picture of an image array, as PNG.
+    static Picture fromImage(hvArray const& image);
     double getResolution() const { return pictureImpl()->getResolution(); }
     void setResolution(double dotsPerInch) { pictureImpl()->setResolution(dotsPerInch); }
     Picture replace(Picture const& picture) { return pictureImpl()->replace(picture); }
