@@ -154,7 +154,7 @@ u16string PPTPartWriter::addImage(u16string const& slidePartName, u16string cons
 u16string PPTPartWriter::addImageData(u16string const& slidePartName, std::string const& bytes,
                                       u16string const& extension) {
     u16string const contentType = FileUtils::getContentType(u"image." + extension);
-    if (bytes.empty() || contentType.empty()) return u16string();
+    if (contentType.empty()) return u16string();
     getPart(slidePartName);
     u16string const name = mediaPartFor(bytes, extension, contentType);
 

@@ -41,7 +41,7 @@ public:
     // exist: the package library's error passes through otherwise.
     u16string addImage(u16string const& slidePartName, u16string const& imagePath);
     // The same for an image made in memory, of the type that `extension`
-    // names; empty text for no bytes or an unknown type.
+    // names; empty text for an unknown type.
     u16string addImageData(u16string const& slidePartName, std::string const& bytes,
                            u16string const& extension);
     // An external hyperlink relationship of the slide; empty text for an empty
