@@ -41,7 +41,14 @@ public:
         cls.addConstructor(
             {words::String}, [](Call& c) { return Picture(c.text(0)); }, "Picture(path)");
         cls.addConstructor(
-            {words::Double}, [](Call& c) { return Picture::fromFigure(c.number(0)); },
+            {words::Double},
+            [](Call& c) {
+                // Handles are doubles; a scalar of another class is a one-pixel image.
+                hvArray const& value = c.raw(0).array();
+                if (value.classID() == hvClassID::Logical || !value.hostClass().empty())
+                    return Picture::fromImage(value);
+                return Picture::fromFigure(c.number(0));
+            },
             "Picture(figureHandle)");
         cls.addConstructor(
             {words::Any},

@@ -39,8 +39,8 @@ end
 rgb = uint8 (cat (3, repmat (0:255, 64, 1), repmat ((0:63)', 1, 256), 128 * ones (64, 256)));
 deep = uint16 (1000 * magic (4));
 grey = [0, 0.5; 1, 2];                               % past 1 is full intensity
-arrays = {rgb, deep, grey, true(5, 7)};
-expected = {rgb, deep, uint8([0, 128; 255, 255]), true(5, 7)};
+arrays = {rgb, deep, grey, true(5, 7), uint8(7)};          % a uint8 scalar is no figure handle
+expected = {rgb, deep, uint8([0, 128; 255, 255]), true(5, 7), uint8(7)};
 for k = 1:numel (arrays)
   pic = deckforge.ppt.Picture (arrays{k});
   assert ({pic.Width, pic.Height}, {sprintf('%dpx', columns (arrays{k})), sprintf('%dpx', rows (arrays{k}))});
