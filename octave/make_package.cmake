@@ -6,7 +6,7 @@ set(pkg ${STAGE}/deckforge)
 file(MAKE_DIRECTORY ${pkg}/inst)
 file(COPY ${DESCRIPTION} ${COPYING} ${ROOT}/PKG_ADD DESTINATION ${pkg})
 file(COPY ${ROOT}/__deckforge_gw__.oct ${ROOT}/libdeckforge_ppt.so ${ROOT}/toolboxdir.m ${ROOT}/picmeta.m
-     ${ROOT}/+deckforge ${ROOT}/+brieflet
+     ${ROOT}/picfigure.m ${ROOT}/+deckforge ${ROOT}/+brieflet
      DESTINATION ${pkg}/inst)
 # Debug information would make the package many times its size.
 if(STRIP)

@@ -33,6 +33,14 @@ void shape(octave_value const& v, std::size_t& rows, std::size_t& cols) {
     cols = rows ? n / rows : (d.ndims() > 1 ? static_cast<std::size_t>(d(1)) : 0);
 }
 
+// The extent of the dimensions past the second.
+std::size_t pages(octave_value const& v) {
+    dim_vector const d = v.dims();
+    std::size_t n = 1;
+    for (int k = 2; k < d.ndims(); ++k) n *= static_cast<std::size_t>(d(k));
+    return n;
+}
+
 hvArray charsFromOctave(octave_value const& v) {
     std::size_t rows, cols;
     shape(v, rows, cols);
@@ -227,12 +235,15 @@ hvArray hvFromOctave(octave_value const& v) {
         hvArray a(hvClassID::Logical, rows, cols);
         boolNDArray b = v.bool_array_value();
         for (octave_idx_type i = 0; i < b.numel(); ++i) a.setNumber(i, b(i) ? 1 : 0);
+        a.setHostShape({}, pages(v));
         return a;
     }
     if (v.isnumeric()) {
         hvArray a(hvClassID::Double, rows, cols);
         NDArray d = v.array_value(true);
         for (octave_idx_type i = 0; i < d.numel(); ++i) a.setNumber(i, d(i));
+        // An image's class tells its scale (uint8 up to 255, double up to 1).
+        a.setHostShape(v.is_double_type() ? std::string() : v.class_name(), pages(v));
         return a;
     }
     // Function handles, objects and the like have no plain form.

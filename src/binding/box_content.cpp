@@ -5,6 +5,8 @@
 #include "binding/marshal.h"
 #include "nodes/base_text_box.h"
 #include "nodes/content_placeholder.h"
+#include "nodes/picture.h"
+#include "nodes/picture_placeholder.h"
 #include "nodes/table_placeholder.h"
 #include "nodes/text_box_placeholder.h"
 #include "platform/msg_ids.h"
@@ -17,6 +19,7 @@ namespace {
 
 constexpr char const* kParagraph = "deckforge.ppt.Paragraph";
 constexpr char const* kTable = "deckforge.ppt.Table";
+constexpr char const* kPicture = "deckforge.ppt.Picture";
 
 ListItem toListItem(Value const& element) {
     if (element.isCell()) {
@@ -87,6 +90,11 @@ void replaceValue(BaseTextBox const& box, Value const& value) {
             return;
         }
     }
+    // A Picture object takes the place of a placeholder that holds pictures.
+    if (impl->isA(NodeType::PicturePlaceholder) && value.isObject() && fitsWord(value, kPicture)) {
+        PicturePlaceholder(impl).replace(toObject<Picture>(value, kPicture));
+        return;
+    }
     if (impl->isA(NodeType::TablePlaceholder) && value.isObject() && fitsWord(value, kTable)) {
         TablePlaceholder(impl).replace(toObject<Table>(value, kTable));
         return;
@@ -112,7 +120,9 @@ void replaceValueInEach(PPTNodeList const& hits, Value const& value) {
                 Table(hit->getImpl()).replace(toObject<Table>(value, kTable));
                 break;
             case NodeType::Picture:
-                raise<ppt_error::invalidReplaceArg>();
+                if (!value.isObject() || !fitsWord(value, kPicture)) raise<ppt_error::invalidReplaceArg>();
+                Picture(hit->getImpl()).replace(toObject<Picture>(value, kPicture));
+                break;
             default:
                 break;
         }

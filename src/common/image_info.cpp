@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cctype>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -195,8 +197,97 @@ ImageInfo ImageInfoEMF::make(u16string const& path) const {
     return ImageInfo(w, h);
 }
 
-ImageInfo ImageInfoSVG::make(u16string const&) const {
-    return ImageInfo(width, height);
+namespace {
+
+// A CSS length in pixels (96 to the inch); false for a percentage, which
+// depends on where the picture is put, and for anything unreadable.
+bool cssPixels(std::string const& text, double& pixels) {
+    char const* begin = text.c_str();
+    char* end = nullptr;
+    double const value = std::strtod(begin, &end);
+    if (end == begin) return false;
+    std::string unit(end);
+    unit.erase(std::remove_if(unit.begin(), unit.end(),
+                              [](char c) { return std::isspace(static_cast<unsigned char>(c)); }),
+               unit.end());
+    static std::map<std::string, double> const perUnit = {
+        {"", 1.0},           {"px", 1.0},         {"pt", 96.0 / 72.0}, {"pc", 16.0}, {"in", 96.0},
+        {"cm", 96.0 / 2.54}, {"mm", 96.0 / 25.4}, {"em", 16.0},        {"ex", 8.0}};
+    auto const it = perUnit.find(unit);
+    if (it == perUnit.end()) return false;
+    pixels = value * it->second;
+    return true;
+}
+
+// The value of attribute `name` in the start tag `tag`, if it is there.
+bool attributeOf(std::string const& tag, char const* name, std::string& value) {
+    std::string const key = name;
+    for (std::size_t at = tag.find(key); at != std::string::npos; at = tag.find(key, at + 1)) {
+        if (at == 0 || !std::isspace(static_cast<unsigned char>(tag[at - 1]))) continue;
+        std::size_t i = at + key.size();
+        while (i < tag.size() && std::isspace(static_cast<unsigned char>(tag[i]))) ++i;
+        if (i >= tag.size() || tag[i] != '=') continue;
+        ++i;
+        while (i < tag.size() && std::isspace(static_cast<unsigned char>(tag[i]))) ++i;
+        if (i >= tag.size() || (tag[i] != '"' && tag[i] != '\'')) continue;
+        std::size_t const close = tag.find(tag[i], i + 1);
+        if (close == std::string::npos) return false;
+        value = tag.substr(i + 1, close - i - 1);
+        return true;
+    }
+    return false;
+}
+
+// The start tag of the root svg element among the first bytes of the file,
+// past the XML declaration, comments and a document type.
+bool svgStartTag(u16string const& path, std::string& tag) {
+    std::ifstream in = openBinary(path);
+    if (!in) return false;
+    std::string head(65536, '\0');
+    in.read(head.data(), static_cast<std::streamsize>(head.size()));
+    head.resize(static_cast<std::size_t>(in.gcount()));
+    for (std::size_t at = head.find("<svg"); at != std::string::npos; at = head.find("<svg", at + 1)) {
+        // Inside a comment is no element.
+        std::size_t const comment = head.rfind("<!--", at);
+        if (comment != std::string::npos && head.find("-->", comment) > at) continue;
+        char const next = at + 4 < head.size() ? head[at + 4] : '\0';
+        if (!std::isspace(static_cast<unsigned char>(next)) && next != '>' && next != '/') continue;
+        std::size_t const end = head.find('>', at);
+        if (end == std::string::npos) return false;
+        tag = head.substr(at, end - at);
+        return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+ImageInfo ImageInfoSVG::make(u16string const& path) const {
+    std::string tag;
+    if (!svgStartTag(path, tag)) return ImageInfo(width, height);
+    double boxW = 0.0, boxH = 0.0;
+    std::string text;
+    if (attributeOf(tag, "viewBox", text)) {
+        std::replace(text.begin(), text.end(), ',', ' ');
+        double x = 0.0, y = 0.0;
+        if (std::sscanf(text.c_str(), "%lf %lf %lf %lf", &x, &y, &boxW, &boxH) != 4 || !plausible(boxW, boxH))
+            boxW = boxH = 0.0;
+    }
+    double w = 0.0, h = 0.0;
+    bool const hasW = attributeOf(tag, "width", text) && cssPixels(text, w) && w > 0.0;
+    bool const hasH = attributeOf(tag, "height", text) && cssPixels(text, h) && h > 0.0;
+    // A side that the file leaves open, or gives in percent, follows from
+    // the other side and the view box's aspect, or is the view box's own.
+    if (boxW > 0.0) {
+        if (hasW && !hasH) h = w * boxH / boxW;
+        if (hasH && !hasW) w = h * boxW / boxH;
+        if (!hasW && !hasH) {
+            w = boxW;
+            h = boxH;
+        }
+    }
+    if (!plausible(w, h)) return ImageInfo(width, height);
+    return ImageInfo(w, h);
 }
 
 ImageInfo InfoUtils::getImageInfo(u16string const& path) {
@@ -236,11 +327,16 @@ bool endsWhole(u16string const& path) {
     if (!readAt(in, static_cast<std::uint64_t>(size) - sizeof tail, tail, sizeof tail)) return false;
     static unsigned char const iend[] = {0, 0, 0, 0, 'I', 'E', 'N', 'D', 0xAE, 0x42, 0x60, 0x82};
     switch (head[0]) {
-        case 0x89: return std::equal(iend, iend + 12, tail);
-        case 'G': return tail[11] == 0x3B;
-        case 0xFF: return tail[10] == 0xFF && tail[11] == 0xD9;
-        case 'B': return le32(head + 2) == static_cast<std::uint64_t>(size);
-        default: return false;
+        case 0x89:
+            return std::equal(iend, iend + 12, tail);
+        case 'G':
+            return tail[11] == 0x3B;
+        case 0xFF:
+            return tail[10] == 0xFF && tail[11] == 0xD9;
+        case 'B':
+            return le32(head + 2) == static_cast<std::uint64_t>(size);
+        default:
+            return false;
     }
 }
 

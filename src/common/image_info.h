@@ -1,7 +1,7 @@
 // How large an image is, in pixels. The size gives a Picture its default
 // Width and Height and the aspect of a picture fitted into a placeholder.
 // Raster files are measured by the host's "picmeta" script function, an EMF
-// by its header, and an SVG not at all.
+// by its header, and an SVG by the width, height and viewBox of its root.
 #pragma once
 
 #include <boost/noncopyable.hpp>
@@ -42,7 +42,9 @@ public:
     ImageInfo make(u16string const& path) const override;
 };
 
-// Never opens the file: every SVG measures as the default size.
+// The size that the root element's width and height give, in CSS pixels;
+// a side left open or given in percent follows from the viewBox. A file
+// that says neither, or can't be read, measures as the default size.
 class ImageInfoSVG : public ImageInfo {
 public:
     using ImageInfo::ImageInfo;

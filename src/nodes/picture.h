@@ -6,6 +6,8 @@
 
 #include "nodes/shape.h"
 
+class hvArray;
+
 namespace deckforge {
 namespace ppt {
 
@@ -36,6 +38,22 @@ public:
     // measuring (the host's, or failedToDetermineFilename) leaves the
     // picture as it was.
     void setPath(u16string const& path);
+    // Prints the figure of a host figure or axes handle to an SVG file of
+    // the picture's own, removed when no picture holds it any more; Width
+    // and Height become the figure's paper size. invalidFigureHandle for
+    // any other value, figureNotPrinted when no file came of it; the
+    // host's own errors pass through. The picture is unchanged on error.
+    void setFigure(double handle);
+    // Writes an image array (m-by-n grey or m-by-n-by-3 RGB; uint8, uint16,
+    // double or single from 0 to 1, or logical) to a PNG file of the
+    // picture's own and takes it as the path; invalidImageArg for any other
+    // array.
+    void setImage(hvArray const& image);
+
+    // Dots per inch of the bitmap that stands beside an SVG picture, at the
+    // picture's width; invalidPropertyValue unless positive and finite.
+    double getResolution() const { return mResolution; }
+    void setResolution(double dotsPerInch);
 
     // A copy of `picture`'s image takes this picture's place among the
     // slide's children and is returned. A picture in a group, or not among
@@ -48,6 +66,9 @@ public:
 
 protected:
     u16string mPath;
+    double mResolution = 200.0;
+    // The file printed from a figure, shared with copies and successors.
+    boost::shared_ptr<void> mOwnedFile;
 };
 
 class Picture : public Shape {
@@ -62,6 +83,12 @@ public:
 
     u16string const& getPath() const { return pictureImpl()->getPath(); }
     void setPath(u16string const& path) { pictureImpl()->setPath(path); }
+    // A picture of the figure of a host figure or axes handle, as SVG.
+    static Picture fromFigure(double handle);
+    // A picture of an image array, as PNG.
+    static Picture fromImage(hvArray const& image);
+    double getResolution() const { return pictureImpl()->getResolution(); }
+    void setResolution(double dotsPerInch) { pictureImpl()->setResolution(dotsPerInch); }
     Picture replace(Picture const& picture) { return pictureImpl()->replace(picture); }
     using Shape::replace;
 

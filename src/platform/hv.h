@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/except.h"
@@ -47,6 +48,17 @@ public:
     hvArray const& cell(std::size_t i) const { return elements_.at(i); }
     void setCell(std::size_t i, hvArray value);
 
+    // What the kinds above lose of the host's value, where the host's glue
+    // keeps it: its own class ("uint8", "single", ...; empty when the kind
+    // tells it) and the extent of its dimensions past the second (3 for an
+    // RGB image), which `cols` counts in.
+    std::string const& hostClass() const { return hostClass_; }
+    std::size_t pages() const { return pages_; }
+    void setHostShape(std::string hostClass, std::size_t pages) {
+        hostClass_ = std::move(hostClass);
+        pages_ = pages;
+    }
+
     std::vector<std::string> const& fieldNames() const { return fieldNames_; }
     // Field `name` of element i, or null when there is no such field.
     hvArray const* field(std::size_t i, std::string const& name) const;
@@ -64,6 +76,8 @@ private:
     std::u16string text_;                  // Char
     std::vector<hvArray> elements_;        // Cell: numel; Struct: numel * fields, element-major
     std::vector<std::string> fieldNames_;  // Struct
+    std::string hostClass_;
+    std::size_t pages_ = 1;
 };
 
 hvArray* hvCreateString(char const* utf8);

@@ -2,6 +2,7 @@
 // slide brings it, leaves its element as it stands.
 #pragma once
 
+#include "common/image_info.h"
 #include "nodes/picture.h"
 #include "writers/shape_writer.h"
 
@@ -18,6 +19,11 @@ public:
     PictureImpl const* getPicture() const { return picture; }
 
 private:
+    // Relates the slide to the image and gives the id for r:embed. An SVG
+    // gets a PNG drawn from it there, and its own part's id in
+    // `svgRelationshipId`.
+    u16string embedImage(ImageInfo const& info, u16string& svgRelationshipId);
+
     PictureImpl const* picture;
 };
 

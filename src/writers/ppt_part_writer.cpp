@@ -61,12 +61,14 @@ u16string PPTPartWriter::copyPart(u16string const& source, bool ownParts) {
     out->close();
     for (auto const& relationship : from.getRelationships()) {
         if (relationship.getTargetMode() == opc::model::TargetModeExternal)
-            to.createExternalRelationship(relationship.getType(), relationship.getTarget(), relationship.getID());
+            to.createExternalRelationship(relationship.getType(), relationship.getTarget(),
+                                          relationship.getID());
         else if (ownParts && relationship.getType() != kImageRelationship &&
                  hasPart(relationship.getTargetURI().getPath()))
-            to.createInternalRelationship(relationship.getType(),
-                                          opc::model::URI(copyPart(relationship.getTargetURI().getPath(), false)),
-                                          relationship.getID());
+            to.createInternalRelationship(
+                relationship.getType(),
+                opc::model::URI(copyPart(relationship.getTargetURI().getPath(), false)),
+                relationship.getID());
         else
             to.createInternalRelationship(relationship.getType(), relationship.getTargetURI(),
                                           relationship.getID());
@@ -146,7 +148,15 @@ u16string PPTPartWriter::addImage(u16string const& slidePartName, u16string cons
         std::streamsize const count = input->gcount();
         if (count > 0) bytes.append(buffer, static_cast<std::size_t>(count));
     }
-    u16string const name = mediaPartFor(bytes, FileUtils::getFileNameExtension(imagePath), contentType);
+    return addImageData(slidePartName, bytes, FileUtils::getFileNameExtension(imagePath));
+}
+
+u16string PPTPartWriter::addImageData(u16string const& slidePartName, std::string const& bytes,
+                                      u16string const& extension) {
+    u16string const contentType = FileUtils::getContentType(u"image." + extension);
+    if (contentType.empty()) return u16string();
+    getPart(slidePartName);
+    u16string const name = mediaPartFor(bytes, extension, contentType);
 
     if (!hasPart(slidePartName)) return u16string();
     opc::model::Part slide = getPart(slidePartName);

@@ -40,6 +40,10 @@ public:
     // read or its extension names no known media type. The slide part must
     // exist: the package library's error passes through otherwise.
     u16string addImage(u16string const& slidePartName, u16string const& imagePath);
+    // The same for an image made in memory, of the type that `extension`
+    // names; empty text for an unknown type.
+    u16string addImageData(u16string const& slidePartName, std::string const& bytes,
+                           u16string const& extension);
     // An external hyperlink relationship of the slide; empty text for an empty
     // target or a slide part that doesn't exist.
     u16string addHyperlink(u16string const& slidePartName, u16string const& target);
@@ -48,7 +52,8 @@ private:
     u16string newMediaName(u16string const& extension);
 
     // The media part for the image's bytes, made if there is none yet.
-    u16string mediaPartFor(std::string const& bytes, u16string const& extension, u16string const& contentType);
+    u16string mediaPartFor(std::string const& bytes, u16string const& extension,
+                           u16string const& contentType);
 
     // A new part with the content and relationships of `source`, named as
     // it is with the next free number. With `ownParts`, the parts it

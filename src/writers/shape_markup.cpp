@@ -300,6 +300,17 @@ DOMElement* createPicture(u16string const& relationshipId, TemplateSlide& slide,
     return pic;
 }
 
+void addSvgBlip(DOMElement* pic, u16string const& relationshipId) {
+    DOMElement* blipFill = ElementWriter::findChildElement(pic, xml::kBlipFill);
+    DOMElement* blip = ElementWriter::findChildElement(blipFill, xml::kBlip);
+    if (!blip || relationshipId.empty()) return;
+    DOMElement* ext = appendNew(appendNew(blip, xml::kExtLst), xml::kExt);
+    ext->setAttribute(xml::kUri, u"{96DAC541-7B7A-43D3-8B79-37D633B846F1}");
+    DOMElement* svgBlip = appendNew(ext, xml::kSvgBlip);
+    svgBlip->setAttribute(xml::kXmlnsAsvg, u"http://schemas.microsoft.com/office/drawing/2016/SVG/main");
+    svgBlip->setAttribute(xml::kEmbed, relationshipId.c_str());
+}
+
 DOMElement* createPictureFromPlaceholder(u16string const& relationshipId, TemplateSlide& slide,
                                          DOMElement* element, DOMElement const* layoutElement,
                                          ShapeImpl const& shape, double width, double height) {

@@ -55,6 +55,11 @@ void applyShapeGeometry(xercesc::DOMElement* shapeElement, TemplateSlide& slide,
 xercesc::DOMElement* createPicture(u16string const& relationshipId, TemplateSlide& slide,
                                    ShapeImpl const& shape);
 
+// Names the SVG part `relationshipId` in the a:blip of `pic` through the
+// extension that SVG-aware readers know; r:embed keeps naming the bitmap
+// that the others show.
+void addSvgBlip(xercesc::DOMElement* pic, u16string const& relationshipId);
+
 // A p:pic to stand in the place of the placeholder `element` (a p:sp): it
 // takes over the p:cNvPr and p:nvPr of its p:nvSpPr, so id, name and p:ph
 // stay, and is fitted into the box of `layoutElement` (see fitPicture).

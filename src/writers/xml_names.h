@@ -49,6 +49,10 @@ inline Name const kRect{u"rect"};
 inline Name const kNoGrp{u"noGrp"};
 inline Name const kNoChangeAspect{u"noChangeAspect"};
 inline Name const kEmbed{u"r:embed"};
+inline Name const kExtLst{u"a:extLst"};
+inline Name const kUri{u"uri"};
+inline Name const kSvgBlip{u"asvg:svgBlip"};
+inline Name const kXmlnsAsvg{u"xmlns:asvg"};
 inline Name const kXmlnsR{u"xmlns:r"};
 // Ties a shape element to its TemplateShape while the document is in the
 // model; writers take it away.

@@ -5,6 +5,7 @@ root = fileparts (gw);
 assert (~isempty (strfind (root, getenv ('HOME'))), 'gateway not from the installed package: %s', gw);
 assert (exist (fullfile (root, 'toolbox', 'shared', 'deckforge', 'ppt', 'resources', 'templates', 'pptx', 'default.pptx'), 'file') == 2);
 assert (strcmp (toolboxdir ('shared'), fullfile (root, 'toolbox', 'shared')));
+assert (strcmp (which ('picfigure'), fullfile (root, 'picfigure.m')));   % figures as pictures
 d = deckforge.ppt.MessageDispatcher.getTheDispatcher ();
 collect_messages ();
 l = addlistener (d, 'Message', @collect_messages);

@@ -17,10 +17,8 @@ tif = deckforge.ppt.Picture ('strip.tif');
 assert ({tif.Width, tif.Height}, {'200px', '50px'});
 named = deckforge.ppt.Picture ('png-named.jpg');   % the content decides
 assert ({named.Width, named.Height}, {'100px', '30px'});
-svg = deckforge.ppt.Picture ('shape.svg');           % never measured
-meta = picmeta ('shape.svg');                        % though picmeta can
-assert ([meta.Width, meta.Height], [120, 80]);
-assert ({svg.Width, svg.Height}, {'300px', '300px'});
+svg = deckforge.ppt.Picture ('shape.svg');           % by its width and height
+assert ({svg.Width, svg.Height}, {'120px', '80px'});
 wide = deckforge.ppt.Picture ('wide.png');
 assert ({wide.Width, wide.Height}, {'300px', '300px'});
 
@@ -36,10 +34,28 @@ for bad = {'missing.png', 'empty.png', 'cut.png', 'notes.xyz'}
   end
 end
 
+% Image arrays as imread gives them become PNG files of the same pixels:
+% the class sets the scale, a third dimension of 3 the colours.
+rgb = uint8 (cat (3, repmat (0:255, 64, 1), repmat ((0:63)', 1, 256), 128 * ones (64, 256)));
+deep = uint16 (1000 * magic (4));
+grey = [0, 0.5; 1, 2];                               % past 1 is full intensity
+arrays = {rgb, deep, grey, true(5, 7), uint8(7)};          % a uint8 scalar is no figure handle
+expected = {rgb, deep, uint8([0, 128; 255, 255]), true(5, 7), uint8(7)};
+for k = 1:numel (arrays)
+  pic = deckforge.ppt.Picture (arrays{k});
+  assert ({pic.Width, pic.Height}, {sprintf('%dpx', columns (arrays{k})), sprintf('%dpx', rows (arrays{k}))});
+  back = imread (pic.Path);
+  assert (isequal (cast (back, class (expected{k})), expected{k}), 'array %d comes back changed', k);
+end
+image = deckforge.ppt.Picture (rgb);
+for bad = {int8(ones(3)), ones(3,3,2), {1}, []}
+  expect_error (@() deckforge.ppt.Picture (bad{1}), 'deckforge:ppt_error:invalidImageArg');
+end
+
 out = fullfile (pwd, 'files.pptx');
 p = deckforge.ppt.Presentation (out);
 s = p.add ('Blank');
-for pic = {tif, named, svg, wide}
+for pic = {tif, named, svg, wide, image}
   s.add (pic{1});
 end
 p.close ();

@@ -161,7 +161,7 @@ TEST(ImageInfo, BadFilesGiveTheDefaultSize) {
     EXPECT_SIZE(300, 300, (Size{missing.width, missing.height}));
 }
 
-TEST(ImageInfo, EmfFrameAtScreenResolutionAndSvgNeverRead) {
+TEST(ImageInfo, EmfFrameAtScreenResolution) {
     ScratchDir dir;
     HostGuard guard(std::make_shared<ImageHost>());  // resolution 96
     EXPECT_SIZE(96, 192, measure(dir, "a.EMF", emf(0, 0, 2540, 5080)));
@@ -169,7 +169,6 @@ TEST(ImageInfo, EmfFrameAtScreenResolutionAndSvgNeverRead) {
     EXPECT_SIZE(300, 300, measure(dir, "short.emf", emf(0, 0, 2540, 5080).substr(0, 40)));
     EXPECT_SIZE(300, 300, measure(dir, "backwards.emf", emf(2540, 0, 0, 5080)));
     EXPECT_SIZE(300, 300, measure(dir, "png.emf", png(10, 10)));
-    EXPECT_SIZE(300, 300, measure(dir, "a.svg", "<svg width='10' height='10'/>"));
     for (auto path : {u"/nowhere/a.svg", u"/nowhere/a.emf"}) {
         ImageInfo const info = InfoUtils::getImageInfo(path);
         EXPECT_SIZE(300, 300, (Size{info.width, info.height}));
@@ -216,4 +215,20 @@ TEST(ImageInfo, HostErrorsPassThrough) {
     };
     HostGuard guard(std::make_shared<Throwing>());
     EXPECT_THROW(InfoUtils::getImageInfo(u"/nowhere/a.png"), std::runtime_error);
+}
+
+// An SVG measures by its root's width and height in CSS pixels; a side that
+// is missing or in percent follows from the viewBox, and a file that gives
+// neither, or no svg root at all, has the default size.
+TEST(ImageInfo, SvgByWidthHeightAndViewBox) {
+    ScratchDir dir;
+    std::string const head = "<?xml version='1.0'?>\n<!-- <svg width='1'> -->\n";
+    EXPECT_SIZE(120, 80, measure(dir, "a.svg", head + "<svg xmlns='x' width=\"120\" height=\"80\"/>"));
+    EXPECT_SIZE(96, 48, measure(dir, "in.SVG", "<svg width='1in' height = '36pt'/>"));
+    EXPECT_SIZE(418, 314, measure(dir, "box.svg", "<svg\n viewBox=\"0 0 418 314\"\n>"));
+    EXPECT_SIZE(200, 50, measure(dir, "w.svg", "<svg width='200' viewBox='0,0,400,100'>"));
+    EXPECT_SIZE(25, 100, measure(dir, "h.svg", "<svg height='100' width='50%' viewBox='0 0 1 4'>"));
+    EXPECT_SIZE(300, 300, measure(dir, "none.svg", "<svg width='10'/>"));
+    EXPECT_SIZE(300, 300, measure(dir, "flat.svg", "<svg viewBox='0 0 10 0'/>"));
+    EXPECT_SIZE(300, 300, measure(dir, "html.svg", "<html><svgx width='5' height='5'/></html>"));
 }

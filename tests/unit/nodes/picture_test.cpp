@@ -44,8 +44,8 @@ TEST(Picture, SizedToItsImageInPixelsUntilScriptCodeSaysOtherwise) {
     picture.setPath(pngFile(dir, "b.png", 20, 10));  // a new image overwrites both
     EXPECT_EQ("-,- 20pxx10px", size(picture));
 
-    test::writeFile(dir / "a.svg", "<svg width='1' height='1'/>");
-    EXPECT_EQ("-,- 300pxx300px", size(Picture((dir / "a.svg").u16string())));
+    test::writeFile(dir / "a.svg", "<svg width='1in' viewBox='0 0 4 2'/>");
+    EXPECT_EQ("-,- 96pxx48px", size(Picture((dir / "a.svg").u16string())));
     EXPECT_TRUE(Picture().getPath().empty());
     EXPECT_FALSE(Picture().getWidth().isSet());
 }

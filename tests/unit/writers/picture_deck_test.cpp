@@ -186,6 +186,53 @@ TEST_F(PictureDeck, ImagesThatCantBeUsedLeaveAValidDeck) {
     }
 }
 
+// An SVG goes in beside a PNG drawn from it, at the picture's resolution
+// across its width; one that can't be drawn goes in as it stands.
+TEST_F(PictureDeck, SvgPicturesCarryABitmapFallback) {
+    writeFile(dir / "bar.svg",
+              "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 200 100'>"
+              "<rect width='200' height='100' fill='teal'/></svg>");
+    writeFile(dir / "broken.svg", "<svg width='20' height='10'><rect");
+    std::filesystem::path const deck = dir / "svg.pptx";
+    {
+        ppt::Presentation p(deck.u16string());
+        ppt::Slide blank = p.add(u"Blank");
+        Picture bar((dir / "bar.svg").u16string());
+        bar.setWidth(u"2in");
+        bar.setResolution(150);
+        blank.add(bar);
+        blank.add(Picture((dir / "broken.svg").u16string()));
+        ASSERT_TRUE(p.close());
+    }
+    std::string const slide = readPart(deck, u"/ppt/slides/slide1.xml");
+    std::vector<std::string> const embeds = all(slide, R"x(r:embed="([^"]*)")x");
+    ASSERT_EQ(3u, embeds.size()) << slide;
+    EXPECT_NE(std::string::npos,
+              slide.find(
+                  "<a:extLst><a:ext uri=\"{96DAC541-7B7A-43D3-8B79-37D633B846F1}\"><asvg:svgBlip r:embed=\"" +
+                  embeds[1] + "\""))
+        << slide;
+    std::string const rels = zipItem(deck, "ppt/slides/_rels/slide1.xml.rels");
+    std::vector<std::string> targets;
+    for (auto const& id : embeds) {
+        std::smatch m;
+        ASSERT_TRUE(
+            std::regex_search(rels, m, std::regex("Id=\"" + id + "\"[^>]*Target=\"../media/([^\"]*)\"")));
+        targets.push_back(m[1].str());
+    }
+    EXPECT_EQ(".png", targets[0].substr(targets[0].size() - 4));
+    EXPECT_EQ(".svg", targets[1].substr(targets[1].size() - 4));
+    EXPECT_EQ(".svg", targets[2].substr(targets[2].size() - 4));
+    // 2 inches at 150 dots per inch, with the drawing's aspect.
+    std::string const fallback = zipItem(deck, ("ppt/media/" + targets[0]).c_str());
+    ASSERT_GE(fallback.size(), 24u);
+    EXPECT_EQ(be32(300) + be32(150), fallback.substr(16, 8));
+    if (std::filesystem::exists(schemaValidator())) {
+        std::string const report = validate(deck);
+        EXPECT_NE(std::string::npos, report.find(" 0 invalid")) << report;
+    }
+}
+
 TEST_F(PictureDeck, PicturesOfTemplateSlidesTakeANewImageInTheirOwnBox) {
     std::filesystem::path const framed = realTemplates() / "ppt2016_autoshape-case009-ja.pptx";
     std::filesystem::path const populated = realTemplates() / "ppt2011mac_ph-populated-placeholders.pptx";
