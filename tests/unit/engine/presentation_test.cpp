@@ -111,6 +111,33 @@ TEST_F(PresentationTest, FailuresBeforeTheTemplateIsRead) {
     EXPECT_EQ(stateOf(docx), PresentationState::Initial);
 }
 
+TEST_F(PresentationTest, StrictTemplateOpensUnlessItHoldsWhatHasNoTransitionalName) {
+    fs::path const strict = fs::path(DECKFORGE_SHARED_DIR) / "strict-templates" / "strict_bg-photo.pptx";
+    if (!fs::exists(strict)) GTEST_SKIP() << "strict template missing";
+    {
+        Presentation p(out("strict.pptx"), strict.u16string());
+        ASSERT_TRUE(p.open());
+        EXPECT_EQ(p.getChildren().size(), 1u);
+        EXPECT_EQ(p.getTemplatePath(), strict.generic_u16string());
+        ASSERT_TRUE(p.close());
+    }
+    EXPECT_EQ(mainContentType(out("strict.pptx")), kPresentationType);
+    std::string const presentation = readPart(out("strict.pptx"), u"/ppt/presentation.xml");
+    EXPECT_NE(std::string::npos, presentation.find("http://schemas.openxmlformats.org/presentationml/2006/main"));
+
+    // A namespace under the Strict root that has no transitional twin.
+    editPackage(strict, out("odd.pptx"), [](ppt::OPCPartWriter& w) {
+        std::string const xml = "<p:presentationPr xmlns:p=\"http://purl.oclc.org/ooxml/presentationml/main\" "
+                                "xmlns:x=\"http://purl.oclc.org/ooxml/somethingNew\"/>";
+        auto stream = w.getPart(u"/ppt/presProps.xml").getOutputStream();
+        stream->write(xml.data(), xml.size());
+        stream->close();
+    });
+    Presentation odd(out("odd-deck.pptx"), out("odd.pptx"));
+    EXPECT_EQ(errorOf([&] { odd.open(); }), "deckforge:ppt_error:strictTemplateUnsupported");
+    EXPECT_EQ(stateOf(odd), PresentationState::Initial);
+}
+
 TEST_F(PresentationTest, AnOutputThatCannotBeWrittenLeavesItDead) {
     // A directory that not even root can create files in.
     Presentation p(u"/proc/deckforge-output.pptx");

@@ -291,6 +291,34 @@ TEST_F(OwnTemplates, EveryRealTemplateGivesADeckThatStrictReadersOpen) {
     }
 }
 
+// A template saved as Strict Open XML gives a transitional deck: no Strict
+// namespace or relationship type is left, and an office suite shows it whole.
+TEST_F(OwnTemplates, StrictTemplateGivesATransitionalDeck) {
+    fs::path const strict = fs::path(DECKFORGE_SHARED_DIR) / "strict-templates" / "strict_bg-photo.pptx";
+    if (!fs::exists(strict)) GTEST_SKIP() << "strict template missing";
+    Rendered const deck = renderEveryLayout(strict, dir / "strict.pptx");
+    EXPECT_EQ(1u, deck.templateSlides);
+    EXPECT_EQ(11u, deck.layouts(deck.masters.at(0)).size());
+    // Relationship parts included.
+    EXPECT_NE(0, std::system(("unzip -p '" + deck.out.string() + "' | grep -q purl.oclc.org").c_str()));
+    if (fs::exists(schemaValidator())) {
+        EXPECT_TRUE(invalidParts(deck.out).empty());
+    }
+    std::string const report = checkCompatibility(deck.out);
+    EXPECT_NE(std::string::npos, report.find(" 0 problems")) << report;
+
+    if (!::deckforge::test::officeToolsAvailable()) GTEST_SKIP() << "soffice or pdfinfo missing";
+    std::string const d = dir.path().string();
+    ASSERT_EQ(0, std::system(("cd '" + d + "' && soffice -env:UserInstallation=file://" + d +
+                              "/profile --headless --convert-to pdf --outdir pdf strict.pptx > /dev/null 2>&1 && "
+                              "pdfinfo pdf/strict.pdf > strict.info")
+                                 .c_str()));
+    std::string const info = readFile(dir / "strict.info");
+    auto const at = info.find("Pages:");
+    ASSERT_NE(std::string::npos, at);
+    EXPECT_EQ(deck.pages, std::stoul(info.substr(at + 6)));
+}
+
 TEST_F(OwnTemplates, EveryLayoutOfEveryMasterValidatesAndOpensInAnOfficeSuite) {
     struct Case {
         char const* file;
