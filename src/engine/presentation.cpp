@@ -430,6 +430,14 @@ boost::shared_ptr<TemplateLayout> PresentationImpl::findLayout(u16string const& 
 
 Slide PresentationImpl::insertSlide(boost::shared_ptr<TemplateLayout> const& layout, std::size_t const* index,
                                     PPTNode const* before) {
+    // The file is written: a slide added now stays in the tree but never
+    // reaches it, which its author should hear of.
+    if (mState == PresentationState::Closed) {
+        auto const id = resource_core::makeMsgID<ppt_warning::slideAddedAfterClose>(mReport->outputPath);
+        if (canReport() && dispatcherFilter().getWarningMessagesPass())
+            MessageDispatcher::getTheDispatcher().dispatch(WarningMessage(id, Presentation(this)));
+        hvWarningMsgId(id);
+    }
     boost::shared_ptr<Slide> slide = SlideImpl::createFromLayout(*mModel, layout);
     // Not through the presentation's own append: a new slide needs no state
     // test and makes no message.

@@ -41,9 +41,15 @@ TEST_F(PresentationTest, RunsFromInitialToClosedAndLeavesTheTemplateAlone) {
     EXPECT_FALSE(p.close());
     EXPECT_EQ(slideIdCount(out("deck.pptx")), 2);
 
+    // Added after close: kept in the tree, never written, and a listener hears so.
     std::string const written = readFile(out("deck.pptx"));
+    std::size_t const heard = dispatched().size();
     p.add(u"Title Slide");
     EXPECT_EQ(p.getNChildren(), 3u);
+    ASSERT_EQ(dispatched().size(), heard + 1);
+    EXPECT_EQ(dispatched().back().rfind("deckforge.ppt.WarningMessage ", 0), 0u) << dispatched().back();
+    EXPECT_NE(dispatched().back().find("will not be written"), std::string::npos) << dispatched().back();
+    EXPECT_EQ(host->warnings.back(), "deckforge:ppt_warning:slideAddedAfterClose");
     EXPECT_EQ(readFile(out("deck.pptx")), written);
     EXPECT_EQ(readFile(defaultTemplate()), templateBytes);
 }
