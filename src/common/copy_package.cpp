@@ -65,19 +65,23 @@ bool targetPart(model::Package const& package, model::Relationship const& relati
 }
 
 u16string const kStrictRelationships = u"http://purl.oclc.org/ooxml/officeDocument/relationships/";
-u16string const kTransitionalRelationships = u"http://schemas.openxmlformats.org/officeDocument/2006/relationships/";
+u16string const kTransitionalRelationships =
+    u"http://schemas.openxmlformats.org/officeDocument/2006/relationships/";
 std::string const kStrictRoot = "http://purl.oclc.org/ooxml/";
 
 // Strict namespaces and their transitional equivalents. Strict names a few
 // relationship types differently too; the rest keep their last segment.
 std::vector<std::pair<std::string, std::string>> const kStrictNamespaces = {
-    {"http://purl.oclc.org/ooxml/presentationml/main", "http://schemas.openxmlformats.org/presentationml/2006/main"},
+    {"http://purl.oclc.org/ooxml/presentationml/main",
+     "http://schemas.openxmlformats.org/presentationml/2006/main"},
     {"http://purl.oclc.org/ooxml/drawingml/main", "http://schemas.openxmlformats.org/drawingml/2006/main"},
     {"http://purl.oclc.org/ooxml/drawingml/chartDrawing",
      "http://schemas.openxmlformats.org/drawingml/2006/chartDrawing"},
     {"http://purl.oclc.org/ooxml/drawingml/chart", "http://schemas.openxmlformats.org/drawingml/2006/chart"},
-    {"http://purl.oclc.org/ooxml/drawingml/diagram", "http://schemas.openxmlformats.org/drawingml/2006/diagram"},
-    {"http://purl.oclc.org/ooxml/drawingml/picture", "http://schemas.openxmlformats.org/drawingml/2006/picture"},
+    {"http://purl.oclc.org/ooxml/drawingml/diagram",
+     "http://schemas.openxmlformats.org/drawingml/2006/diagram"},
+    {"http://purl.oclc.org/ooxml/drawingml/picture",
+     "http://schemas.openxmlformats.org/drawingml/2006/picture"},
     {"http://purl.oclc.org/ooxml/drawingml/lockedCanvas",
      "http://schemas.openxmlformats.org/drawingml/2006/lockedCanvas"},
     {"http://purl.oclc.org/ooxml/drawingml/compatibility",
@@ -100,8 +104,10 @@ std::vector<std::pair<std::string, std::string>> const kStrictNamespaces = {
      "http://schemas.openxmlformats.org/officeDocument/2006/customXml"},
     {"http://purl.oclc.org/ooxml/officeDocument/bibliography",
      "http://schemas.openxmlformats.org/officeDocument/2006/bibliography"},
-    {"http://purl.oclc.org/ooxml/officeDocument/math", "http://schemas.openxmlformats.org/officeDocument/2006/math"},
-    {"http://purl.oclc.org/ooxml/spreadsheetml/main", "http://schemas.openxmlformats.org/spreadsheetml/2006/main"},
+    {"http://purl.oclc.org/ooxml/officeDocument/math",
+     "http://schemas.openxmlformats.org/officeDocument/2006/math"},
+    {"http://purl.oclc.org/ooxml/spreadsheetml/main",
+     "http://schemas.openxmlformats.org/spreadsheetml/2006/main"},
     {"http://purl.oclc.org/ooxml/wordprocessingml/main",
      "http://schemas.openxmlformats.org/wordprocessingml/2006/main"},
 };
@@ -203,7 +209,8 @@ private:
         auto in = part.getInputStream();
         auto out = copy.getOutputStream();
         if (fromStrict_ && isXmlType(type.toString())) {
-            std::string const xml = transitionalXml(opc::StreamHelper::readAll(*in, opc::interfaces::IPhysicalPackage::kMaxItemSize));
+            std::string const xml = transitionalXml(
+                opc::StreamHelper::readAll(*in, opc::interfaces::IPhysicalPackage::kMaxItemSize));
             std::size_t const left = xml.find(kStrictRoot);
             if (left != std::string::npos && unmapped_.empty()) {
                 std::size_t const end = xml.find_first_of("\"' <>", left);

@@ -27,7 +27,8 @@ void ParagraphWriter::write() {
     // alignment set anywhere from the paragraph up to the table wins.
     PPTNodeImpl const* parentNode = paragraph->getParent();
     if (parentNode && parentNode->getNodeType() == NodeType::TableEntry &&
-        static_cast<TableEntryImpl const*>(parentNode)->isFromNumber() && !findFormat(paragraph, FormatTypeHAlign))
+        static_cast<TableEntryImpl const*>(parentNode)->isFromNumber() &&
+        !findFormat(paragraph, FormatTypeHAlign))
         setParagraphAttribute(kAlgn, u"r");
 
     xercesc::DOMElement* element = createElement(xml::kP);

@@ -50,7 +50,8 @@ u16string PPTPartWriter::addSlide(boost::shared_ptr<TemplateSlide> const& slide)
 }
 
 namespace {
-char16_t const kRelationshipsNamespace[] = u"http://schemas.openxmlformats.org/officeDocument/2006/relationships";
+char16_t const kRelationshipsNamespace[] =
+    u"http://schemas.openxmlformats.org/officeDocument/2006/relationships";
 }  // namespace
 
 // What a new slide keeps of its layout (chart frames, objects, footers with
@@ -90,8 +91,9 @@ void PPTPartWriter::carryLayoutRelationships(opc::model::Part& part, TemplateSli
             u16string const id = attr->getValue();
             auto known = renamed.find(id);
             if (known == renamed.end()) {
-                auto const source = std::find_if(layoutRelationships.begin(), layoutRelationships.end(),
-                                                 [&](opc::model::Relationship const& r) { return r.getID() == id; });
+                auto const source =
+                    std::find_if(layoutRelationships.begin(), layoutRelationships.end(),
+                                 [&](opc::model::Relationship const& r) { return r.getID() == id; });
                 // An id the layout doesn't have stays as the template wrote it.
                 if (source == layoutRelationships.end()) continue;
                 u16string const& type = source->getType();
@@ -200,13 +202,16 @@ namespace {
 // The extension and content type that an image's first bytes show, for the
 // raster kinds and EMF; none for anything else (an SVG among them).
 std::optional<std::pair<u16string, u16string>> rasterTypeOf(std::string const& bytes) {
-    auto const starts = [&](char const* magic, std::size_t size) { return bytes.compare(0, size, magic, size) == 0; };
+    auto const starts = [&](char const* magic, std::size_t size) {
+        return bytes.compare(0, size, magic, size) == 0;
+    };
     if (starts("\x89PNG\r\n\x1a\n", 8)) return std::make_pair(u16string(u"png"), u16string(u"image/png"));
     if (starts("\xff\xd8\xff", 3)) return std::make_pair(u16string(u"jpeg"), u16string(u"image/jpeg"));
     if (starts("GIF87a", 6) || starts("GIF89a", 6))
         return std::make_pair(u16string(u"gif"), u16string(u"image/gif"));
     if (starts("BM", 2)) return std::make_pair(u16string(u"bmp"), u16string(u"image/bmp"));
-    if (starts("II*\0", 4) || starts("MM\0*", 4)) return std::make_pair(u16string(u"tiff"), u16string(u"image/tiff"));
+    if (starts("II*\0", 4) || starts("MM\0*", 4))
+        return std::make_pair(u16string(u"tiff"), u16string(u"image/tiff"));
     if (starts("\x01\0\0\0", 4) && bytes.size() >= 44 && bytes.compare(40, 4, " EMF") == 0)
         return std::make_pair(u16string(u"emf"), u16string(u"image/x-emf"));
     return std::nullopt;

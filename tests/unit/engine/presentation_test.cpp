@@ -129,12 +129,14 @@ TEST_F(PresentationTest, StrictTemplateOpensUnlessItHoldsWhatHasNoTransitionalNa
     }
     EXPECT_EQ(mainContentType(out("strict.pptx")), kPresentationType);
     std::string const presentation = readPart(out("strict.pptx"), u"/ppt/presentation.xml");
-    EXPECT_NE(std::string::npos, presentation.find("http://schemas.openxmlformats.org/presentationml/2006/main"));
+    EXPECT_NE(std::string::npos,
+              presentation.find("http://schemas.openxmlformats.org/presentationml/2006/main"));
 
     // A namespace under the Strict root that has no transitional twin.
     editPackage(strict, out("odd.pptx"), [](ppt::OPCPartWriter& w) {
-        std::string const xml = "<p:presentationPr xmlns:p=\"http://purl.oclc.org/ooxml/presentationml/main\" "
-                                "xmlns:x=\"http://purl.oclc.org/ooxml/somethingNew\"/>";
+        std::string const xml =
+            "<p:presentationPr xmlns:p=\"http://purl.oclc.org/ooxml/presentationml/main\" "
+            "xmlns:x=\"http://purl.oclc.org/ooxml/somethingNew\"/>";
         auto stream = w.getPart(u"/ppt/presProps.xml").getOutputStream();
         stream->write(xml.data(), xml.size());
         stream->close();

@@ -35,7 +35,9 @@ std::filesystem::path schemaValidator() {
     return std::filesystem::path(DECKFORGE_SHARED_DIR) / "ooxml-schemas" / "validate-pptx";
 }
 
-std::filesystem::path compatibilityChecker() { return sourceDir() / "tests" / "tools" / "check-pptx"; }
+std::filesystem::path compatibilityChecker() {
+    return sourceDir() / "tests" / "tools" / "check-pptx";
+}
 
 std::string checkCompatibility(std::filesystem::path const& deck, std::filesystem::path const& templateFile) {
     std::string command = "python3 '" + compatibilityChecker().string() + "'";

@@ -270,7 +270,8 @@ TEST_F(OwnTemplates, EveryRealTemplateGivesADeckThatStrictReadersOpen) {
     for (auto const& entry : fs::directory_iterator(realTemplates())) {
         std::string const name = entry.path().filename().string();
         if (name.rfind("corrupt_", 0) == 0) continue;
-        if (entry.path().extension() == ".pptx" || entry.path().extension() == ".potx") files.push_back(entry.path());
+        if (entry.path().extension() == ".pptx" || entry.path().extension() == ".potx")
+            files.push_back(entry.path());
     }
     std::sort(files.begin(), files.end());
     for (fs::path const& file : files) {
@@ -309,10 +310,11 @@ TEST_F(OwnTemplates, StrictTemplateGivesATransitionalDeck) {
 
     if (!::deckforge::test::officeToolsAvailable()) GTEST_SKIP() << "soffice or pdfinfo missing";
     std::string const d = dir.path().string();
-    ASSERT_EQ(0, std::system(("cd '" + d + "' && soffice -env:UserInstallation=file://" + d +
-                              "/profile --headless --convert-to pdf --outdir pdf strict.pptx > /dev/null 2>&1 && "
-                              "pdfinfo pdf/strict.pdf > strict.info")
-                                 .c_str()));
+    ASSERT_EQ(
+        0, std::system(("cd '" + d + "' && soffice -env:UserInstallation=file://" + d +
+                        "/profile --headless --convert-to pdf --outdir pdf strict.pptx > /dev/null 2>&1 && "
+                        "pdfinfo pdf/strict.pdf > strict.info")
+                           .c_str()));
     std::string const info = readFile(dir / "strict.info");
     auto const at = info.find("Pages:");
     ASSERT_NE(std::string::npos, at);
