@@ -1,12 +1,17 @@
 // FileUtils::copyPackage: turning a template into a presentation means giving
 // its main part another content type, which a byte copy can't do. The package
 // is then rebuilt part by part, following relationships from the root, so
-// that ids and targets stay exactly as they were.
+// that ids and targets stay exactly as they were. A Strict Open XML package is
+// rebuilt the same way, its namespaces and relationship types made
+// transitional on the way.
 #include <deque>
 #include <set>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "common/file_utils.h"
+#include "common/strings.h"
 #include "platform/filesystem.h"
 #include "platform/opc/opc.h"
 
@@ -59,11 +64,108 @@ bool targetPart(model::Package const& package, model::Relationship const& relati
     return true;
 }
 
+u16string const kStrictRelationships = u"http://purl.oclc.org/ooxml/officeDocument/relationships/";
+u16string const kTransitionalRelationships =
+    u"http://schemas.openxmlformats.org/officeDocument/2006/relationships/";
+std::string const kStrictRoot = "http://purl.oclc.org/ooxml/";
+
+// Strict namespaces and their transitional equivalents. Strict names a few
+// relationship types differently too; the rest keep their last segment.
+std::vector<std::pair<std::string, std::string>> const kStrictNamespaces = {
+    {"http://purl.oclc.org/ooxml/presentationml/main",
+     "http://schemas.openxmlformats.org/presentationml/2006/main"},
+    {"http://purl.oclc.org/ooxml/drawingml/main", "http://schemas.openxmlformats.org/drawingml/2006/main"},
+    {"http://purl.oclc.org/ooxml/drawingml/chartDrawing",
+     "http://schemas.openxmlformats.org/drawingml/2006/chartDrawing"},
+    {"http://purl.oclc.org/ooxml/drawingml/chart", "http://schemas.openxmlformats.org/drawingml/2006/chart"},
+    {"http://purl.oclc.org/ooxml/drawingml/diagram",
+     "http://schemas.openxmlformats.org/drawingml/2006/diagram"},
+    {"http://purl.oclc.org/ooxml/drawingml/picture",
+     "http://schemas.openxmlformats.org/drawingml/2006/picture"},
+    {"http://purl.oclc.org/ooxml/drawingml/lockedCanvas",
+     "http://schemas.openxmlformats.org/drawingml/2006/lockedCanvas"},
+    {"http://purl.oclc.org/ooxml/drawingml/compatibility",
+     "http://schemas.openxmlformats.org/drawingml/2006/compatibility"},
+    {"http://purl.oclc.org/ooxml/drawingml/spreadsheetDrawing",
+     "http://schemas.openxmlformats.org/drawingml/2006/spreadsheetDrawing"},
+    {"http://purl.oclc.org/ooxml/drawingml/wordprocessingDrawing",
+     "http://schemas.openxmlformats.org/drawingml/2006/wordprocessingDrawing"},
+    {"http://purl.oclc.org/ooxml/officeDocument/relationships",
+     "http://schemas.openxmlformats.org/officeDocument/2006/relationships"},
+    {"http://purl.oclc.org/ooxml/officeDocument/docPropsVTypes",
+     "http://schemas.openxmlformats.org/officeDocument/2006/docPropsVTypes"},
+    {"http://purl.oclc.org/ooxml/officeDocument/extendedProperties",
+     "http://schemas.openxmlformats.org/officeDocument/2006/extended-properties"},
+    {"http://purl.oclc.org/ooxml/officeDocument/customProperties",
+     "http://schemas.openxmlformats.org/officeDocument/2006/custom-properties"},
+    {"http://purl.oclc.org/ooxml/officeDocument/sharedTypes",
+     "http://schemas.openxmlformats.org/officeDocument/2006/sharedTypes"},
+    {"http://purl.oclc.org/ooxml/officeDocument/customXml",
+     "http://schemas.openxmlformats.org/officeDocument/2006/customXml"},
+    {"http://purl.oclc.org/ooxml/officeDocument/bibliography",
+     "http://schemas.openxmlformats.org/officeDocument/2006/bibliography"},
+    {"http://purl.oclc.org/ooxml/officeDocument/math",
+     "http://schemas.openxmlformats.org/officeDocument/2006/math"},
+    {"http://purl.oclc.org/ooxml/spreadsheetml/main",
+     "http://schemas.openxmlformats.org/spreadsheetml/2006/main"},
+    {"http://purl.oclc.org/ooxml/wordprocessingml/main",
+     "http://schemas.openxmlformats.org/wordprocessingml/2006/main"},
+};
+
+// A relationship type as Transitional names it, or empty text when Strict
+// has no transitional equivalent for it.
+u16string transitionalType(u16string const& type) {
+    if (type.rfind(kStrictRelationships, 0) != 0) {
+        return type.rfind(u"http://purl.oclc.org/ooxml/", 0) == 0 ? u16string() : type;
+    }
+    u16string const rest = type.substr(kStrictRelationships.size());
+    if (rest == u"metadata/thumbnail")
+        return u"http://schemas.openxmlformats.org/package/2006/relationships/metadata/thumbnail";
+    if (rest == u"extendedProperties") return kTransitionalRelationships + u"extended-properties";
+    if (rest == u"customProperties") return kTransitionalRelationships + u"custom-properties";
+    if (rest.find(u'/') != u16string::npos) return u16string();
+    return kTransitionalRelationships + rest;
+}
+
+// The part's XML with Strict namespaces made transitional; the names that
+// only Strict knows are left for the caller to find. The conformance class
+// goes: the deck written from it is transitional.
+std::string transitionalXml(std::string xml) {
+    for (auto const& [strict, transitional] : kStrictNamespaces) {
+        for (std::size_t at = xml.find(strict); at != std::string::npos; at = xml.find(strict, at)) {
+            // Whole URIs only: "chart" must not take the start of "chartDrawing".
+            std::size_t const end = at + strict.size();
+            if (end < xml.size() && xml[end] != '"' && xml[end] != '\'') {
+                at = end;
+                continue;
+            }
+            xml.replace(at, strict.size(), transitional);
+            at += transitional.size();
+        }
+    }
+    for (char const* quote : {" conformance=\"strict\"", " conformance='strict'"}) {
+        std::size_t const at = xml.find(quote);
+        if (at != std::string::npos) xml.erase(at, std::char_traits<char>::length(quote));
+    }
+    return xml;
+}
+
+bool isXmlType(u16string const& type) {
+    return type.size() >= 3 && (type.compare(type.size() - 3, 3, u"xml") == 0);
+}
+
 class PackageCopier {
 public:
     PackageCopier(model::Package const& source, model::Package& target, u16string mainPart,
-                  u16string mainType)
-        : source_(source), target_(target), mainPart_(std::move(mainPart)), mainType_(std::move(mainType)) {}
+                  u16string mainType, bool fromStrict = false)
+        : source_(source),
+          target_(target),
+          mainPart_(std::move(mainPart)),
+          mainType_(std::move(mainType)),
+          fromStrict_(fromStrict) {}
+
+    // What a Strict package held that has no transitional equivalent.
+    u16string const& unmapped() const { return unmapped_; }
 
     void run() {
         copyRelationships(source_, target_);
@@ -78,13 +180,19 @@ public:
 private:
     void copyRelationships(model::RelationshipSource const& from, model::RelationshipSource& to) {
         for (auto const& relationship : from.getRelationships()) {
+            u16string type = relationship.getType();
+            if (fromStrict_) {
+                type = transitionalType(type);
+                if (type.empty()) {
+                    if (unmapped_.empty()) unmapped_ = u"the relationship type " + relationship.getType();
+                    type = relationship.getType();
+                }
+            }
             if (relationship.getTargetMode() != model::TargetModeInternal) {
-                to.createExternalRelationship(relationship.getType(), relationship.getTarget(),
-                                              relationship.getID());
+                to.createExternalRelationship(type, relationship.getTarget(), relationship.getID());
                 continue;
             }
-            to.createInternalRelationship(relationship.getType(), model::URI(relationship.getTarget()),
-                                          relationship.getID());
+            to.createInternalRelationship(type, model::URI(relationship.getTarget()), relationship.getID());
             model::Part part;
             // A dangling relationship is kept as it was; there is nothing to copy.
             if (targetPart(source_, relationship, part)) copyPart(part);
@@ -94,13 +202,24 @@ private:
     void copyPart(model::Part const& part) {
         u16string const& name = part.getName().toString();
         if (!done_.insert(name).second) return;
-        model::ContentType const type = model::PartName(mainPart_) == part.getName()
+        model::ContentType const type = !mainPart_.empty() && model::PartName(mainPart_) == part.getName()
                                             ? model::ContentType(mainType_)
                                             : part.getContentType();
         model::Part copy = target_.createPart(part.getName(), type, model::StandardPartInfo(1, 0));
         auto in = part.getInputStream();
         auto out = copy.getOutputStream();
-        opc::StreamHelper::copyStreamToStream(*in, *out);
+        if (fromStrict_ && isXmlType(type.toString())) {
+            std::string const xml = transitionalXml(
+                opc::StreamHelper::readAll(*in, opc::interfaces::IPhysicalPackage::kMaxItemSize));
+            std::size_t const left = xml.find(kStrictRoot);
+            if (left != std::string::npos && unmapped_.empty()) {
+                std::size_t const end = xml.find_first_of("\"' <>", left);
+                unmapped_ = u"the namespace " + toString(xml.substr(left, end - left)) + u" in " + name;
+            }
+            out->write(xml.data(), xml.size());
+        } else {
+            opc::StreamHelper::copyStreamToStream(*in, *out);
+        }
         out->close();
         pending_.emplace_back(part, copy);
     }
@@ -109,11 +228,36 @@ private:
     model::Package& target_;
     u16string const mainPart_;
     u16string const mainType_;
+    bool const fromStrict_;
+    u16string unmapped_;
     std::set<u16string> done_;
     std::deque<std::pair<model::Part, model::Part>> pending_;
 };
 
 }  // namespace
+
+bool FileUtils::isStrictPackage(u16string const& path) {
+    SourcePackage in(path);
+    bool strict = false;
+    for (auto const& relationship : in.package->getRelationships())
+        if (relationship.getType() == kStrictRelationships + u"officeDocument") strict = true;
+    in.package->close(false);
+    return strict;
+}
+
+u16string FileUtils::convertStrictPackage(u16string const& source, u16string const& target) {
+    SourcePackage in(source);
+    u16string unmapped;
+    {
+        TargetPackage out(target);
+        PackageCopier copier(*in.package, *out.package, u16string(), u16string(), true);
+        copier.run();
+        unmapped = copier.unmapped();
+        out.package->close(false);
+    }
+    in.package->close(false);
+    return unmapped;
+}
 
 void FileUtils::copyPackage(u16string const& source, u16string const& target, u16string const& contentType) {
     u16string mainPart;

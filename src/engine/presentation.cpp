@@ -118,6 +118,7 @@ PresentationImpl::~PresentationImpl() {
     reportDestroyed();
     try {
         removeTempPackage();
+        removeStrictCopy();
     } catch (...) {
         // A temporary file that can't be removed is not worth a crash.
     }
@@ -228,10 +229,13 @@ bool PresentationImpl::open() {
     FileUtils::validateFileName(outputName);
 
     u16string const templatePath = withDefaultExtension(mReport->templatePath, u"pptx");
+    // A Strict Open XML template is read through a transitional copy of it,
+    // so that the deck written from it is transitional throughout.
+    u16string const readPath = transitionalTemplate(templatePath);
     // The content decides, not the name: a template called ".pptx" whose main
     // part is a document is refused, and any name with a presentation inside
     // is accepted.
-    u16string const templateType = readMainContentType(templatePath);
+    u16string const templateType = readMainContentType(readPath);
     u16string const& templateExtension = getExtensionOfContentType(templateType);
     if (templateExtension.empty()) raise<ppt_error::invalidFileExtension>(templatePath);
 
@@ -241,10 +245,12 @@ bool PresentationImpl::open() {
         raise<ppt_error::invalidFileExtension>(outputPath);
 
     try {
-        loadTemplate(templatePath);
+        loadTemplate(readPath);
     } catch (deckforge::Exception const& e) {
+        removeStrictCopy();
         raise<ppt_error::cannotOpenTemplate>(toString(std::string(e.what())));
     }
+    removeStrictCopy();
 
     // Parsed now, so the setters take the final paths.
     setTemplatePath(templatePath);
@@ -258,6 +264,36 @@ bool PresentationImpl::open() {
         raise<ppt_error::cannotOpenFile>(mReport->outputPath);
     }
     return true;
+}
+
+u16string PresentationImpl::transitionalTemplate(u16string const& templatePath) {
+    removeStrictCopy();
+    bool strict = false;
+    try {
+        strict = FileUtils::isStrictPackage(templatePath);
+    } catch (...) {
+        // Not a package that opens: the content type check says so.
+    }
+    if (!strict) return templatePath;
+    mStrictCopyPath = FileUtils::getTempName() + u"." + FileUtils::getFileNameExtension(templatePath);
+    u16string unmapped;
+    try {
+        unmapped = FileUtils::convertStrictPackage(templatePath, mStrictCopyPath);
+    } catch (deckforge::Exception const& e) {
+        removeStrictCopy();
+        raise<ppt_error::cannotOpenTemplate>(toString(std::string(e.what())));
+    }
+    if (!unmapped.empty()) {
+        removeStrictCopy();
+        raise<ppt_error::strictTemplateUnsupported>(templatePath, unmapped);
+    }
+    return mStrictCopyPath;
+}
+
+void PresentationImpl::removeStrictCopy() {
+    if (mStrictCopyPath.empty()) return;
+    FileUtils::removeFile(mStrictCopyPath);
+    mStrictCopyPath.clear();
 }
 
 void PresentationImpl::loadTemplate(u16string const& templatePath) {
@@ -406,6 +442,14 @@ boost::shared_ptr<TemplateLayout> PresentationImpl::findLayout(u16string const& 
 
 Slide PresentationImpl::insertSlide(boost::shared_ptr<TemplateLayout> const& layout, std::size_t const* index,
                                     PPTNode const* before) {
+    // The file is written: a slide added now stays in the tree but never
+    // reaches it, which its author should hear of.
+    if (mState == PresentationState::Closed) {
+        auto const id = resource_core::makeMsgID<ppt_warning::slideAddedAfterClose>(mReport->outputPath);
+        if (canReport() && dispatcherFilter().getWarningMessagesPass())
+            MessageDispatcher::getTheDispatcher().dispatch(WarningMessage(id, Presentation(this)));
+        hvWarningMsgId(id);
+    }
     boost::shared_ptr<Slide> slide = SlideImpl::createFromLayout(*mModel, layout);
     // Not through the presentation's own append: a new slide needs no state
     // test and makes no message.

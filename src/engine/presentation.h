@@ -161,6 +161,10 @@ private:
     // Reads the template into a model through a temporary copy.
     void loadTemplate(u16string const& templatePath);
     void removeTempPackage();
+    // The path to read the template from: itself, or for a Strict Open XML
+    // template a transitional copy of it, removed once the template is read.
+    u16string transitionalTemplate(u16string const& templatePath);
+    void removeStrictCopy();
     // Whether script code can be told: a handle can only be made once one exists.
     bool canReport() const { return getRefCount() != 0; }
     Slide insertSlide(boost::shared_ptr<TemplateLayout> const& layout, std::size_t const* index,
@@ -170,6 +174,7 @@ private:
     PresentationState mState = PresentationState::Initial;
     boost::shared_ptr<Report> mReport;
     u16string mTempPackagePath;
+    u16string mStrictCopyPath;
     boost::shared_ptr<PartDOMBuilder> mDOMBuilder;
     boost::shared_ptr<PresentationModel> mModel;
     std::vector<std::pair<u16string, u16string>> mTableStyleNames;

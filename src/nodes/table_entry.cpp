@@ -10,7 +10,8 @@ TableEntryImpl::TableEntryImpl() {
     reportCreated();
 }
 
-TableEntryImpl::TableEntryImpl(TableEntryImpl const& other) : ElementImpl(other), mColSpan(other.mColSpan) {
+TableEntryImpl::TableEntryImpl(TableEntryImpl const& other)
+    : ElementImpl(other), mColSpan(other.mColSpan), mFromNumber(other.mFromNumber) {
     reportCreated();
 }
 

@@ -15,7 +15,7 @@ namespace ppt {
 class TableEntryImpl : public ElementImpl {
 public:
     TableEntryImpl();
-    // Clones the paragraphs; keeps the span.
+    // Clones the paragraphs; keeps the span and where the text came from.
     TableEntryImpl(TableEntryImpl const& other);
     ~TableEntryImpl() override;
 
@@ -29,8 +29,14 @@ public:
     // Above 0, or invalidPropertyValue with the value; the span stays then.
     void setColSpan(std::int32_t span);
 
+    // Whether the entry's text came from a number of a host table; such
+    // entries are right-aligned unless a format says otherwise.
+    bool isFromNumber() const { return mFromNumber; }
+    void setFromNumber(bool fromNumber) { mFromNumber = fromNumber; }
+
 private:
     std::int32_t mColSpan = 1;
+    bool mFromNumber = false;
 };
 
 // The constructor and append that take a Paragraph adopt that very object;

@@ -37,6 +37,14 @@ Paragraph paragraphOf(HvContentPtr const& content) {
     }
 }
 
+// Numbers, also those a host gives in display form (a dataframe's column);
+// logicals show as 1 and 0 but are no quantities.
+bool isNumber(HvContentPtr const& content) {
+    if (!content) return false;
+    int const type = content->getType();
+    return type == hv_type::Integer || type == hv_type::Double || type == hv_type::DisplayNumber;
+}
+
 // The paragraph of a cell: a Paragraph object itself, or a new one from the
 // content. Null for a cell that names a paragraph with no native object.
 boost::shared_ptr<Paragraph> cellParagraph(HvContentPtr const& content) {
@@ -82,6 +90,7 @@ TableImpl::TableImpl(boost::shared_ptr<HvTable> const& table) {
             HvContentPtr const& content = table->getCell(r, c);
             boost::shared_ptr<Paragraph> paragraph = cellParagraph(content);
             TableEntry entry;
+            entry.tableEntryImpl()->setFromNumber(isNumber(content));
             if (paragraph) {
                 if (paragraph->nodeImpl()->getParent())
                     paragraph = boost::make_shared<Paragraph>(paragraph->clone()->getImpl());

@@ -4,6 +4,7 @@
 
 #include <xercesc/dom/DOM.hpp>
 
+#include "nodes/table_entry.h"
 #include "writers/xml_names.h"
 
 namespace deckforge {
@@ -12,6 +13,7 @@ namespace ppt {
 namespace {
 xml::Name const kPPr{u"a:pPr"};
 xml::Name const kLvl{u"lvl"};
+xml::Name const kAlgn{u"algn"};
 // ST_TextIndentLevelType runs from 0 to 8.
 unsigned int const kDeepestLevel = 8;
 }  // namespace
@@ -21,6 +23,13 @@ ParagraphWriter::ParagraphWriter(ParagraphImpl const* paragraph_, PPTWriter* wri
 
 void ParagraphWriter::write() {
     applyFormats(paragraph, getInheritableFormatTypes());
+    // Numbers read best aligned on their last digit, as in any report; an
+    // alignment set anywhere from the paragraph up to the table wins.
+    PPTNodeImpl const* parentNode = paragraph->getParent();
+    if (parentNode && parentNode->getNodeType() == NodeType::TableEntry &&
+        static_cast<TableEntryImpl const*>(parentNode)->isFromNumber() &&
+        !findFormat(paragraph, FormatTypeHAlign))
+        setParagraphAttribute(kAlgn, u"r");
 
     xercesc::DOMElement* element = createElement(xml::kP);
     if (!element) return;

@@ -1,5 +1,13 @@
 #include "writers/ppt_part_writer.h"
 
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <set>
+#include <vector>
+
+#include <xercesc/dom/DOM.hpp>
+
 #include "common/file_utils.h"
 #include "platform/opc/opc.h"
 
@@ -33,10 +41,75 @@ u16string PPTPartWriter::addSlide(boost::shared_ptr<TemplateSlide> const& slide)
     u16string name = slidePartName(++slideNumber);
     while (hasPart(name)) name = slidePartName(++slideNumber);
     opc::model::Part part = createPart(name, kSlideContentType);
-    if (slide && slide->layout)
+    if (slide && slide->layout) {
         part.createInternalRelationship(kSlideLayoutRelationship, opc::model::URI(slide->layout->partName),
                                         u"");
+        carryLayoutRelationships(part, *slide);
+    }
     return name;
+}
+
+namespace {
+char16_t const kRelationshipsNamespace[] =
+    u"http://schemas.openxmlformats.org/officeDocument/2006/relationships";
+}  // namespace
+
+// What a new slide keeps of its layout (chart frames, objects, footers with
+// links) names relationships of the layout's part. The slide gets its own to
+// the same targets, a chart a copy of its own, and the references follow;
+// left alone they would name nothing, and readers repair the slide.
+void PPTPartWriter::carryLayoutRelationships(opc::model::Part& part, TemplateSlide& slide) {
+    xercesc::DOMElement* root = slide.document ? slide.document->getDocumentElement() : nullptr;
+    if (!root || !hasPart(slide.layout->partName)) return;
+    // Names carry their prefixes: the attributes of interest are those under
+    // a prefix that the root binds to the relationships namespace.
+    std::set<u16string> prefixes;
+    xercesc::DOMNamedNodeMap* declarations = root->getAttributes();
+    for (XMLSize_t i = 0, n = declarations ? declarations->getLength() : 0; i < n; ++i) {
+        auto* attr = static_cast<xercesc::DOMAttr*>(declarations->item(i));
+        u16string const attrName = attr->getName();
+        if (attrName.rfind(u"xmlns:", 0) == 0 && u16string(attr->getValue()) == kRelationshipsNamespace)
+            prefixes.insert(attrName.substr(6) + u":");
+    }
+    if (prefixes.empty()) return;
+
+    std::vector<opc::model::Relationship> const layoutRelationships =
+        getPart(slide.layout->partName).getRelationships();
+    std::map<u16string, u16string> renamed;
+    std::vector<xercesc::DOMElement*> pending{root};
+    while (!pending.empty()) {
+        xercesc::DOMElement* element = pending.back();
+        pending.pop_back();
+        for (auto* child = element->getFirstElementChild(); child; child = child->getNextElementSibling())
+            pending.push_back(child);
+        xercesc::DOMNamedNodeMap* attributes = element->getAttributes();
+        for (XMLSize_t i = 0, n = attributes ? attributes->getLength() : 0; i < n; ++i) {
+            auto* attr = static_cast<xercesc::DOMAttr*>(attributes->item(i));
+            u16string const attrName = attr->getName();
+            std::size_t const colon = attrName.find(u':');
+            if (colon == u16string::npos || !prefixes.count(attrName.substr(0, colon + 1))) continue;
+            u16string const id = attr->getValue();
+            auto known = renamed.find(id);
+            if (known == renamed.end()) {
+                auto const source =
+                    std::find_if(layoutRelationships.begin(), layoutRelationships.end(),
+                                 [&](opc::model::Relationship const& r) { return r.getID() == id; });
+                // An id the layout doesn't have stays as the template wrote it.
+                if (source == layoutRelationships.end()) continue;
+                u16string const& type = source->getType();
+                opc::model::Relationship made;
+                if (source->getTargetMode() == opc::model::TargetModeExternal) {
+                    made = part.createExternalRelationship(type, source->getTarget(), u"");
+                } else {
+                    u16string target = source->getTargetURI().getPath();
+                    if (type == kChartRelationship && hasPart(target)) target = copyPart(target, true);
+                    made = part.createInternalRelationship(type, opc::model::URI(target), u"");
+                }
+                known = renamed.emplace(id, made.getID()).first;
+            }
+            attr->setValue(known->second.c_str());
+        }
+    }
 }
 
 u16string PPTPartWriter::newPartName(u16string const& prefix, u16string const& suffix) {
@@ -127,6 +200,26 @@ u16string PPTPartWriter::mediaPartFor(std::string const& bytes, u16string const&
     return name;
 }
 
+namespace {
+// The extension and content type that an image's first bytes show, for the
+// raster kinds and EMF; none for anything else (an SVG among them).
+std::optional<std::pair<u16string, u16string>> rasterTypeOf(std::string const& bytes) {
+    auto const starts = [&](char const* magic, std::size_t size) {
+        return bytes.compare(0, size, magic, size) == 0;
+    };
+    if (starts("\x89PNG\r\n\x1a\n", 8)) return std::make_pair(u16string(u"png"), u16string(u"image/png"));
+    if (starts("\xff\xd8\xff", 3)) return std::make_pair(u16string(u"jpeg"), u16string(u"image/jpeg"));
+    if (starts("GIF87a", 6) || starts("GIF89a", 6))
+        return std::make_pair(u16string(u"gif"), u16string(u"image/gif"));
+    if (starts("BM", 2)) return std::make_pair(u16string(u"bmp"), u16string(u"image/bmp"));
+    if (starts("II*\0", 4) || starts("MM\0*", 4))
+        return std::make_pair(u16string(u"tiff"), u16string(u"image/tiff"));
+    if (starts("\x01\0\0\0", 4) && bytes.size() >= 44 && bytes.compare(40, 4, " EMF") == 0)
+        return std::make_pair(u16string(u"emf"), u16string(u"image/x-emf"));
+    return std::nullopt;
+}
+}  // namespace
+
 u16string PPTPartWriter::addImage(u16string const& slidePartName, u16string const& imagePath) {
     boost::shared_ptr<std::istream> input;
     try {
@@ -152,11 +245,23 @@ u16string PPTPartWriter::addImage(u16string const& slidePartName, u16string cons
 }
 
 u16string PPTPartWriter::addImageData(u16string const& slidePartName, std::string const& bytes,
-                                      u16string const& extension) {
-    u16string const contentType = FileUtils::getContentType(u"image." + extension);
-    if (contentType.empty()) return u16string();
+                                      u16string const& givenExtension) {
+    // An empty file holds no image, and an empty image part is one that
+    // strict readers repair: it goes like an unreadable one.
+    if (bytes.empty()) return u16string();
+    u16string extension = givenExtension;
+    u16string type = FileUtils::getContentType(u"image." + extension);
+    if (type.empty()) return u16string();
+    // The bytes decide over the name: a PNG saved as ".jpg" is packaged as
+    // a PNG, since a part whose bytes belong to another type is repaired.
+    if (auto const known = rasterTypeOf(bytes)) {
+        if (type != known->second) {
+            extension = known->first;
+            type = known->second;
+        }
+    }
     getPart(slidePartName);
-    u16string const name = mediaPartFor(bytes, extension, contentType);
+    u16string const name = mediaPartFor(bytes, extension, type);
 
     if (!hasPart(slidePartName)) return u16string();
     opc::model::Part slide = getPart(slidePartName);

@@ -23,7 +23,8 @@ public:
     std::uint64_t getSlideNumber() const { return slideNumber; }
 
     // Creates the next free "/ppt/slides/slideN.xml", related to the slide's
-    // layout, and gives its name.
+    // layout and to what the markup it keeps of the layout refers to, and
+    // gives its name.
     u16string addSlide(boost::shared_ptr<TemplateSlide> const& slide);
     // The same for a copy of a slide: the new part takes the relationships
     // of the slide copied, with their ids, so that the copied markup finds
@@ -60,6 +61,7 @@ private:
     // relates to are copied as well (a chart's workbook, style and
     // colours), except pictures, which stay shared.
     u16string copyPart(u16string const& source, bool ownParts);
+    void carryLayoutRelationships(opc::model::Part& part, TemplateSlide& slide);
 
     std::uint64_t slideNumber = 0;
     std::uint64_t mediaNumber = 0;

@@ -64,7 +64,10 @@ confirm_recursive_rmdir (false);
 if exist (unpacked, 'dir'), rmdir (unpacked, 's'); end
 unzip (out, unpacked);
 types = fileread (fullfile (unpacked, '[Content_Types].xml'));
+% The bytes decide: the PNG named ".jpg" is packaged as a PNG.
 for t = {'Extension="tif" ContentType="image/tiff"', 'Extension="svg" ContentType="image/svg+xml"', ...
-         'Extension="jpg" ContentType="image/jpeg"'}
+         'Extension="png" ContentType="image/png"'}
   assert (! isempty (strfind (types, t{1})), 'no %s in %s', t{1}, types);
 end
+assert (isempty (strfind (types, 'image/jpeg')), types);
+check_deck (out);

@@ -35,6 +35,8 @@ specs = m.ColSpecs;
 assert (numel (specs) == 2 && strcmp (specs{2}.Width, '2cm'));
 expect_error (@() set_property (m, 'ColSpecs', 5), 'deckforge:ppt_error:invalidPropertyValue');
 
+cell23 = t.entry (2, 3);
+cell23.HAlign = 'center';
 s = p.add ('Title and Table');
 s.replace ('Title', 'From a cell array');
 placed = s.find ('Table'){1}.replace (t);
@@ -64,3 +66,12 @@ p.close ();
 unzip (out, fullfile (pwd, 'unpacked'));
 slide3 = fileread (fullfile (pwd, 'unpacked', 'ppt', 'slides', 'slide3.xml'));
 assert (! isempty (strfind (slide3, '{83719924-2EDA-4336-83F3-41D03204C820}')), 'style not by its id');
+
+% Cells from numbers are right-aligned, text and logicals are not, and an
+% alignment set on the entry wins.
+slide1 = fileread (fullfile (pwd, 'unpacked', 'ppt', 'slides', 'slide1.xml'));
+cells = regexp (slide1, '<a:tc>.*?</a:tc>', 'match');
+right = ! cellfun (@isempty, strfind (cells, 'algn="r"'));
+assert (isequal (right, [false false false, false true false, false true false]), ...
+        'right-aligned cells: %s', mat2str (right));
+assert (! isempty (strfind (cells{6}, 'algn="ctr"')));

@@ -41,9 +41,15 @@ TEST_F(PresentationTest, RunsFromInitialToClosedAndLeavesTheTemplateAlone) {
     EXPECT_FALSE(p.close());
     EXPECT_EQ(slideIdCount(out("deck.pptx")), 2);
 
+    // Added after close: kept in the tree, never written, and a listener hears so.
     std::string const written = readFile(out("deck.pptx"));
+    std::size_t const heard = dispatched().size();
     p.add(u"Title Slide");
     EXPECT_EQ(p.getNChildren(), 3u);
+    ASSERT_EQ(dispatched().size(), heard + 1);
+    EXPECT_EQ(dispatched().back().rfind("deckforge.ppt.WarningMessage ", 0), 0u) << dispatched().back();
+    EXPECT_NE(dispatched().back().find("will not be written"), std::string::npos) << dispatched().back();
+    EXPECT_EQ(host->warnings.back(), "deckforge:ppt_warning:slideAddedAfterClose");
     EXPECT_EQ(readFile(out("deck.pptx")), written);
     EXPECT_EQ(readFile(defaultTemplate()), templateBytes);
 }
@@ -109,6 +115,35 @@ TEST_F(PresentationTest, FailuresBeforeTheTemplateIsRead) {
     EXPECT_TRUE(docx.presentationImpl()->getTempPackagePath().empty());
     EXPECT_FALSE(fs::exists(out("z.docx")));
     EXPECT_EQ(stateOf(docx), PresentationState::Initial);
+}
+
+TEST_F(PresentationTest, StrictTemplateOpensUnlessItHoldsWhatHasNoTransitionalName) {
+    fs::path const strict = fs::path(DECKFORGE_SHARED_DIR) / "strict-templates" / "strict_bg-photo.pptx";
+    if (!fs::exists(strict)) GTEST_SKIP() << "strict template missing";
+    {
+        Presentation p(out("strict.pptx"), strict.u16string());
+        ASSERT_TRUE(p.open());
+        EXPECT_EQ(p.getChildren().size(), 1u);
+        EXPECT_EQ(p.getTemplatePath(), strict.generic_u16string());
+        ASSERT_TRUE(p.close());
+    }
+    EXPECT_EQ(mainContentType(out("strict.pptx")), kPresentationType);
+    std::string const presentation = readPart(out("strict.pptx"), u"/ppt/presentation.xml");
+    EXPECT_NE(std::string::npos,
+              presentation.find("http://schemas.openxmlformats.org/presentationml/2006/main"));
+
+    // A namespace under the Strict root that has no transitional twin.
+    editPackage(strict, out("odd.pptx"), [](ppt::OPCPartWriter& w) {
+        std::string const xml =
+            "<p:presentationPr xmlns:p=\"http://purl.oclc.org/ooxml/presentationml/main\" "
+            "xmlns:x=\"http://purl.oclc.org/ooxml/somethingNew\"/>";
+        auto stream = w.getPart(u"/ppt/presProps.xml").getOutputStream();
+        stream->write(xml.data(), xml.size());
+        stream->close();
+    });
+    Presentation odd(out("odd-deck.pptx"), out("odd.pptx"));
+    EXPECT_EQ(errorOf([&] { odd.open(); }), "deckforge:ppt_error:strictTemplateUnsupported");
+    EXPECT_EQ(stateOf(odd), PresentationState::Initial);
 }
 
 TEST_F(PresentationTest, AnOutputThatCannotBeWrittenLeavesItDead) {

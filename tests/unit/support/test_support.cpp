@@ -1,6 +1,7 @@
 #include "support/test_support.h"
 
 #include <atomic>
+#include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <random>
@@ -32,6 +33,23 @@ std::filesystem::path binaryDir() { return DECKFORGE_BINARY_DIR; }
 std::filesystem::path realTemplates() { return std::filesystem::path(DECKFORGE_SHARED_DIR) / "real-templates"; }
 std::filesystem::path schemaValidator() {
     return std::filesystem::path(DECKFORGE_SHARED_DIR) / "ooxml-schemas" / "validate-pptx";
+}
+
+std::filesystem::path compatibilityChecker() {
+    return sourceDir() / "tests" / "tools" / "check-pptx";
+}
+
+std::string checkCompatibility(std::filesystem::path const& deck, std::filesystem::path const& templateFile) {
+    std::string command = "python3 '" + compatibilityChecker().string() + "'";
+    if (!templateFile.empty()) command += " --template '" + templateFile.string() + "'";
+    command += " '" + deck.string() + "' 2>&1";
+    std::string report;
+    FILE* pipe = ::popen(command.c_str(), "r");
+    if (!pipe) return report;
+    char buffer[4096];
+    while (std::size_t n = std::fread(buffer, 1, sizeof buffer, pipe)) report.append(buffer, n);
+    ::pclose(pipe);
+    return report;
 }
 
 bool officeToolsAvailable() {

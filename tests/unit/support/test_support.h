@@ -24,6 +24,13 @@ std::filesystem::path sourceDir();      // the repository
 std::filesystem::path binaryDir();      // the build tree
 std::filesystem::path realTemplates();  // ../shared/real-templates
 std::filesystem::path schemaValidator();  // ../shared/ooxml-schemas/validate-pptx
+std::filesystem::path compatibilityChecker();  // tests/tools/check-pptx
+
+// The compatibility checker's report on a deck, ending in "N parts checked, M
+// problems". With a template, only what the deck adds to the template's own
+// problems counts.
+std::string checkCompatibility(std::filesystem::path const& deck,
+                               std::filesystem::path const& templateFile = {});
 
 // Whether LibreOffice and poppler's tools are there for a round trip through
 // a real reader. The sanitizer run sets DECKFORGE_NO_OFFICE: those round trips

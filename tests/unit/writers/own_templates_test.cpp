@@ -4,6 +4,7 @@
 // convention would look. Each gets a slide of every layout of every master,
 // by name; the outputs must validate and open in an office suite with the
 // right number of pages.
+#include <algorithm>
 #include <cstdlib>
 #include <map>
 #include <set>
@@ -55,7 +56,7 @@ std::vector<std::string> utf8(std::vector<u16string> const& texts) {
 // shows on the p:sld; that is the model's documented choice, not counted here.
 std::set<std::string> invalidParts(fs::path const& file) {
     std::set<std::string> parts;
-    std::istringstream report(validate(file, "-e 0"));
+    std::istringstream report(schemaReport(file, "-e 0"));
     for (std::string line; std::getline(report, line);) {
         if (line.rfind("INVALID ", 0) != 0) continue;
         auto const colon = line.find(':');
@@ -258,6 +259,66 @@ TEST_F(OwnTemplates, UnusualPlacesAreReachedByRelationshipsAlone) {
         (std::vector<u16string>{u"/content/pages/one.xml /l/b.xml", u"/ppt/slides/slide2.xml /l/a.xml",
                                 u"/ppt/slides/slide3.xml /l/b.xml", u"/ppt/slides/slide4.xml /l/c.xml"}),
         targets);
+}
+
+// Every well-formed real template: a slide of every layout beside the
+// template's own slides. What the deck adds must pass the schemas and the
+// compatibility checker, and no part carries the model's marker.
+TEST_F(OwnTemplates, EveryRealTemplateGivesADeckThatStrictReadersOpen) {
+    if (!fs::exists(realTemplates())) GTEST_SKIP() << "real templates missing";
+    std::vector<fs::path> files;
+    for (auto const& entry : fs::directory_iterator(realTemplates())) {
+        std::string const name = entry.path().filename().string();
+        if (name.rfind("corrupt_", 0) == 0) continue;
+        if (entry.path().extension() == ".pptx" || entry.path().extension() == ".potx")
+            files.push_back(entry.path());
+    }
+    std::sort(files.begin(), files.end());
+    for (fs::path const& file : files) {
+        SCOPED_TRACE(file.filename().string());
+        Rendered const deck = renderEveryLayout(file, dir / (file.stem().string() + ".pptx"));
+        for (auto const& name : zipEntries(deck.out)) {
+            if (name.size() < 4 || name[0] == '[' || name.compare(name.size() - 4, 4, ".xml") != 0) continue;
+            EXPECT_EQ(std::string::npos, readPart(deck.out, u"/" + toString(name)).find("data-uid")) << name;
+        }
+        std::string const report = checkCompatibility(deck.out, file);
+        EXPECT_NE(std::string::npos, report.find(" 0 problems")) << report;
+        if (fs::exists(schemaValidator())) {
+            std::set<std::string> const before = invalidParts(file);
+            for (auto const& part : invalidParts(deck.out))
+                EXPECT_TRUE(before.count(part)) << part << " became invalid";
+        }
+        fs::remove(deck.out);
+    }
+}
+
+// A template saved as Strict Open XML gives a transitional deck: no Strict
+// namespace or relationship type is left, and an office suite shows it whole.
+TEST_F(OwnTemplates, StrictTemplateGivesATransitionalDeck) {
+    fs::path const strict = fs::path(DECKFORGE_SHARED_DIR) / "strict-templates" / "strict_bg-photo.pptx";
+    if (!fs::exists(strict)) GTEST_SKIP() << "strict template missing";
+    Rendered const deck = renderEveryLayout(strict, dir / "strict.pptx");
+    EXPECT_EQ(1u, deck.templateSlides);
+    EXPECT_EQ(11u, deck.layouts(deck.masters.at(0)).size());
+    // Relationship parts included.
+    EXPECT_NE(0, std::system(("unzip -p '" + deck.out.string() + "' | grep -q purl.oclc.org").c_str()));
+    if (fs::exists(schemaValidator())) {
+        EXPECT_TRUE(invalidParts(deck.out).empty());
+    }
+    std::string const report = checkCompatibility(deck.out);
+    EXPECT_NE(std::string::npos, report.find(" 0 problems")) << report;
+
+    if (!::deckforge::test::officeToolsAvailable()) GTEST_SKIP() << "soffice or pdfinfo missing";
+    std::string const d = dir.path().string();
+    ASSERT_EQ(
+        0, std::system(("cd '" + d + "' && soffice -env:UserInstallation=file://" + d +
+                        "/profile --headless --convert-to pdf --outdir pdf strict.pptx > /dev/null 2>&1 && "
+                        "pdfinfo pdf/strict.pdf > strict.info")
+                           .c_str()));
+    std::string const info = readFile(dir / "strict.info");
+    auto const at = info.find("Pages:");
+    ASSERT_NE(std::string::npos, at);
+    EXPECT_EQ(deck.pages, std::stoul(info.substr(at + 6)));
 }
 
 TEST_F(OwnTemplates, EveryLayoutOfEveryMasterValidatesAndOpensInAnOfficeSuite) {

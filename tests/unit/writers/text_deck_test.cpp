@@ -28,7 +28,7 @@ TEST(TextDeck, TemplateSlidesFilledByNameValidAndReadableInOrder) {
         ASSERT_TRUE(p.close());
     }
     if (std::filesystem::exists(schemaValidator())) {
-        std::string const report = validate(deck);
+        std::string const report = validate(deck, "", real);
         EXPECT_NE(std::string::npos, report.find(" 0 invalid")) << report;
     }
 

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include <gtest/gtest.h>
 #include <zip.h>
 
 #include "template/presentation_model.h"
@@ -105,7 +106,14 @@ std::vector<std::string> zipEntries(std::filesystem::path const& file) {
     return names;
 }
 
-std::string validate(std::filesystem::path const& file, std::string const& options) {
+std::string validate(std::filesystem::path const& file, std::string const& options,
+                     std::filesystem::path const& templateFile) {
+    std::string const compatibility = checkCompatibility(file, templateFile);
+    EXPECT_NE(std::string::npos, compatibility.find(" 0 problems")) << file << ":\n" << compatibility;
+    return schemaReport(file, options);
+}
+
+std::string schemaReport(std::filesystem::path const& file, std::string const& options) {
     std::string const command = schemaValidator().string() + " " + options + " '" + file.string() + "' 2>&1";
     std::string report;
     FILE* pipe = popen(command.c_str(), "r");

@@ -43,8 +43,13 @@ PPTNodePtr templateSlide(ppt::PresentationModel& model, std::size_t index);
 
 // The entry names of a zip file.
 std::vector<std::string> zipEntries(std::filesystem::path const& file);
-// The schema validator's report on a package.
-std::string validate(std::filesystem::path const& file, std::string const& options = "");
+// The schema validator's report on a package. The package must also pass the
+// compatibility checker (compared with its template, when one is named): a
+// failure of it is added to the test.
+std::string validate(std::filesystem::path const& file, std::string const& options = "",
+                     std::filesystem::path const& templateFile = {});
+// The schema validator's report alone, for templates, whose flaws are their own.
+std::string schemaReport(std::filesystem::path const& file, std::string const& options = "");
 std::size_t countOf(std::string const& text, std::string const& needle);
 
 }  // namespace test
