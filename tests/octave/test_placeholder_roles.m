@@ -99,13 +99,15 @@ for k = 1:numel (cases)
   decks{end+1} = out;
 end
 
-% The preview of every real template validates; a few are rendered with one
+% The preview of every real template validates and passes the compatibility
+% check (against what the template itself holds); a few are rendered with one
 % page per layout.
 [passes, tests] = test (fullfile (fileparts (which ('deckforge.ppt.Presentation')), 'preview.m'), 'quiet');
 assert (tests > 0 && passes == tests, 'the tests of preview.m fail');
 files = dir (fullfile (real, '*.p*x'));
 rendered = {'gslides_074.pptx', 'ppt2016mac_mecanon-2masters.potx', 'lo248_chartbar-it.pptx'};
 layoutsOf = struct ();
+pairs = '';
 for k = 1:numel (files)
   template = fullfile (real, files(k).name);
   if strncmp (files(k).name, 'corrupt_', 8), continue; end
@@ -114,11 +116,16 @@ for k = 1:numel (files)
     [status, output] = system (sprintf ('"%s" "%s" 2>&1', validator, out));
     assert (status == 0, 'preview of %s: %s', files(k).name, output);
   end
+  pairs = [pairs, sprintf(' --template "%s" "%s"', template, out)];
   if any (strcmp (rendered, files(k).name))
     decks{end+1} = out;
     layoutsOf.(matlab.lang.makeValidName (out)) = numel (deckforge.ppt.Presentation (tempname (), template).describe ());
   end
 end
+
+checker = fullfile (fileparts (mfilename ('fullpath')), '..', 'tools', 'check-pptx');
+[status, output] = system (sprintf ('python3 "%s"%s 2>&1', checker, pairs));
+assert (status == 0 && ! isempty (strfind (output, ' 0 problems')), 'check-pptx:\n%s', output);
 
 if office && ! isempty (decks)
   profile = ['file://' fullfile(pwd, 'lo-profile')];

@@ -90,12 +90,7 @@ assert (str2double (ext(:))', [400, 100] * 9525);
 info = imfinfo (fullfile (unpacked, 'ppt', 'media', 'image1.png'));
 assert (info.Width, round (w * 96));
 
-here = fileparts (mfilename ('fullpath'));
-validator = fullfile (here, '..', '..', '..', 'shared', 'ooxml-schemas', 'validate-pptx');
-if exist (validator, 'file')
-  [status, output] = system (sprintf ('"%s" "%s" 2>&1', validator, out));
-  assert (status == 0 && ! isempty (strfind (output, ' 0 invalid')), 'validate-pptx:\n%s', output);
-end
+check_deck (out);
 [noOffice, ~] = system ('command -v soffice && command -v pdftotext');
 if noOffice == 0 && isempty (getenv ('DECKFORGE_NO_OFFICE'))
   profile = ['file://' fullfile(pwd, 'lo-profile')];

@@ -653,9 +653,13 @@ void Package::deletePart(PartName const& name) {
         core.deletedItems.push_back(stored->second);
         core.items.erase(stored);
     };
+    std::u16string const relationshipsItem = core.relationshipsOf(*entry).itemName;
     drop(entry->itemName);
-    drop(core.relationshipsOf(*entry).itemName);
+    drop(relationshipsItem);
     core.types.removeOverride(name.toString());
+    // Some producers give relationship parts an Override of their own; one
+    // left behind names a missing part, which strict readers repair.
+    core.types.removeOverride(u"/" + relationshipsItem);
     core.deletedParts.push_back(std::move(found->second));
     core.parts.erase(found);
 }

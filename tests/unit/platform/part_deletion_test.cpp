@@ -15,13 +15,16 @@ char const kTypes[] =
     "<Types xmlns=\"http://schemas.openxmlformats.org/package/2006/content-types\">"
     "<Default Extension=\"rels\" ContentType=\"application/vnd.openxmlformats-package.relationships+xml\"/>"
     "<Override PartName=\"/a.xml\" ContentType=\"text/a\"/><Override PartName=\"/b.xml\" ContentType=\"text/b\"/>"
+    // as LibreOffice writes them: relationship parts with Overrides of their own
+    "<Override PartName=\"/_rels/a.xml.rels\" "
+    "ContentType=\"application/vnd.openxmlformats-package.relationships+xml\"/>"
     "</Types>";
 char const kRels[] =
     "<Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/relationships\">"
     "<Relationship Id=\"rId1\" Type=\"t\" Target=\"b.xml\"/></Relationships>";
 
 // Deleting a stored part drops its item, its relationships item and its
-// content type; the rest is copied, and under SOURCE_DATE_EPOCH every entry,
+// content types; the rest is copied, and under SOURCE_DATE_EPOCH every entry,
 // copied or new, carries that time in UTC.
 TEST(PartDeletion, DeletedPartLeavesNothingBehindAndEntriesTakeTheFixedTime) {
     ScratchDir dir;
