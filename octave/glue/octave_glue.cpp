@@ -7,6 +7,7 @@
 // error too. Octave's own errors (from a listener, say) pass through as they
 // are.
 #include <dlfcn.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <map>
@@ -44,7 +45,6 @@ namespace {
 
 constexpr char const* kListenerClass = "deckforge.Listener";
 constexpr char const* kWrapMarker = "deckforge_wrap__";
-constexpr char const* kBaseMarker = "deckforge_base__";
 
 // Listener objects of each script object. Never destroyed: holding Octave
 // values past the interpreter's end must not run their destructors.
@@ -144,14 +144,33 @@ public:
     }
 };
 
-// Where this library lies: the package's directory, which is the host root
-// that the default template's path hangs from.
+std::string directoryOf(std::string const& path) {
+    std::string::size_type slash = path.rfind('/');
+    return slash == std::string::npos ? std::string(".") : path.substr(0, slash);
+}
+
+// Where this library lies.
 std::string moduleDirectory() {
     Dl_info info{};
     if (!dladdr(reinterpret_cast<void*>(&moduleDirectory), &info) || !info.dli_fname) return {};
-    std::string path = info.dli_fname;
-    std::string::size_type slash = path.rfind('/');
-    return slash == std::string::npos ? std::string(".") : path.substr(0, slash);
+    return directoryOf(info.dli_fname);
+}
+
+// The host root, that the default template's path hangs from: the library's
+// folder in a build tree. An installed package keeps the library in a folder
+// of its architecture, apart from the script files and the template; those
+// lie beside toolboxdir.m.
+std::string hostRoot() {
+    std::string const module = moduleDirectory();
+    if (::access((module + "/toolboxdir.m").c_str(), F_OK) == 0) return module;
+    if (octave::interpreter* interp = octave::interpreter::the_interpreter()) {
+        octave_value f = interp->get_symbol_table().find_function("toolboxdir");
+        if (octave_function* fn = f.function_value(true)) {
+            std::string const file = fn->fcn_file_name();
+            if (!file.empty()) return directoryOf(file);
+        }
+    }
+    return module;
 }
 
 void installHost() {
@@ -161,7 +180,7 @@ void installHost() {
     static OctaveScriptHost scriptHost;
     setScriptHost(&scriptHost);
     hv::setHost(std::make_shared<OctaveHvHost>());
-    host::setQuorixRoot(fl::i18n::to_string(moduleDirectory()));
+    host::setQuorixRoot(fl::i18n::to_string(hostRoot()));
     host::setCurrentDirectoryProvider(
         [] { return fl::i18n::to_string(octave::sys::env::get_current_directory()); });
 }

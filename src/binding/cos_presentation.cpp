@@ -177,7 +177,8 @@ public:
         cls.addMethod(
             "getTableStyleNames", words::Any, {},
             [](Call& c) {
-                auto const& styles = c.self<Presentation>().getTableStyleNames();
+                Presentation presentation = c.self<Presentation>();
+                auto const& styles = presentation.getTableStyleNames();
                 std::vector<Value> cells(styles.size() * 2);
                 for (std::size_t i = 0; i < styles.size(); ++i) {
                     cells[i] = Value::text(styles[i].first);

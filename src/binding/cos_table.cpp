@@ -22,7 +22,8 @@ Table tableFromValue(Value const& value) {
 }
 
 Value getColSpecs(PPTObject const& self) {
-    auto const& specs = Table(self.getImpl()).getColSpecs();
+    Table const table(self.getImpl());
+    auto const& specs = table.getColSpecs();
     return toScript(PPTNodeList(specs.begin(), specs.end()));
 }
 
