@@ -10,6 +10,9 @@ class CosBold : public CosPPTObjectClassInfo {
 public:
     CosBold() : CosPPTObjectClassInfo("Bold") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "t = deckforge.ppt.Text('bold');\n"
+            "t.Style = {deckforge.ppt.Bold()};");
         cls.setHelp("Bold characters; Bold(false) switches off a bold set higher up.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

@@ -10,6 +10,9 @@ class CosFontColor : public CosPPTObjectClassInfo {
 public:
     CosFontColor() : CosPPTObjectClassInfo("FontColor") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "t = deckforge.ppt.Text('red text');\n"
+            "t.Style = {deckforge.ppt.FontColor('red')};");
         cls.setHelp("The colour of the characters.");
         cls.addSuperclass("deckforge.ppt.Color");
         cls.addConstructor(

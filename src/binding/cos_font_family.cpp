@@ -10,6 +10,9 @@ class CosFontFamily : public CosPPTObjectClassInfo {
 public:
     CosFontFamily() : CosPPTObjectClassInfo("FontFamily") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "t = deckforge.ppt.Text('sans');\n"
+            "t.Style = {deckforge.ppt.FontFamily('Arial')};");
         cls.setHelp(
             "The Latin font and the complex-script font of the characters; an empty name writes nothing.");
         cls.addSuperclass("deckforge.ppt.Format");

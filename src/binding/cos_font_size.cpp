@@ -10,6 +10,9 @@ class CosFontSize : public CosPPTObjectClassInfo {
 public:
     CosFontSize() : CosPPTObjectClassInfo("FontSize") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "t = deckforge.ppt.Text('large');\n"
+            "t.Style = {deckforge.ppt.FontSize('28pt')};");
         cls.setHelp("The size of the characters, from 1pt to 4000pt.");
         cls.addSuperclass("deckforge.ppt.BaseDimension");
         cls.addConstructor(

@@ -10,6 +10,9 @@ class CosHAlign : public CosPPTObjectClassInfo {
 public:
     CosHAlign() : CosPPTObjectClassInfo("HAlign") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "para = deckforge.ppt.Paragraph('to the right');\n"
+            "para.Style = {deckforge.ppt.HAlign('right')};");
         cls.setHelp(
             "The alignment of a paragraph: left, right, center, justified, justifiedLow, distributed or "
             "thaiDistributed.");

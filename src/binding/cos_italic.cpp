@@ -10,6 +10,9 @@ class CosItalic : public CosPPTObjectClassInfo {
 public:
     CosItalic() : CosPPTObjectClassInfo("Italic") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "t = deckforge.ppt.Text('slanted');\n"
+            "t.Style = {deckforge.ppt.Italic(true)};");
         cls.setHelp("Italic characters.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

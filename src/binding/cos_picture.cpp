@@ -14,6 +14,13 @@ class CosPicture : public CosPPTObjectClassInfo {
 public:
     CosPicture() : CosPPTObjectClassInfo("Picture") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "f = [tempname() '.png'];\n"
+            "imwrite(uint8(255 * rand(30, 40, 3)), f);\n"
+            "pic = deckforge.ppt.Picture(f);\n"
+            "pic.Width = '2in';\n"
+            "pic.Height = '1.5in';\n"
+            "delete(f);");
         cls.setHelp(
             "A picture from an image file (PNG, JPEG, GIF, BMP, TIFF, SVG, EMF).\n"
             "Its size defaults to the image's own; set Width or Height to change it.\n"

@@ -63,6 +63,14 @@ class CosPresentation : public CosPPTObjectClassInfo {
 public:
     CosPresentation() : CosPPTObjectClassInfo("Presentation") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "f = [tempname() '.pptx'];\n"
+            "p = deckforge.ppt.Presentation(f);\n"
+            "s = p.add('Title Slide');\n"
+            "s.replace('Title', 'Quarterly report');\n"
+            "s.replace('Subtitle', 'made with deckforge');\n"
+            "p.close();\n"
+            "delete(f);");
         cls.setHelp(
             "A presentation built on a template and written to OutputPath by close. "
             "  p = deckforge.ppt.Presentation('out.pptx');   % default template "

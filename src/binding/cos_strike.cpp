@@ -10,6 +10,9 @@ class CosStrike : public CosPPTObjectClassInfo {
 public:
     CosStrike() : CosPPTObjectClassInfo("Strike") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "t = deckforge.ppt.Text('struck');\n"
+            "t.Style = {deckforge.ppt.Strike('single')};");
         cls.setHelp("Struck-through characters: none, single or double.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

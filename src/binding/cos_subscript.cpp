@@ -10,6 +10,12 @@ class CosSubscript : public CosPPTObjectClassInfo {
 public:
     CosSubscript() : CosPPTObjectClassInfo("Subscript") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "para = deckforge.ppt.Paragraph('H');\n"
+            "sub = deckforge.ppt.Text('2');\n"
+            "sub.Style = {deckforge.ppt.Subscript()};\n"
+            "para.append(sub);\n"
+            "para.append(deckforge.ppt.Text('O'));");
         cls.setHelp("Characters lowered below the baseline.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

@@ -10,6 +10,11 @@ class CosTableStyleOptions : public CosPPTObjectClassInfo {
 public:
     CosTableStyleOptions() : CosPPTObjectClassInfo("TableStyleOptions") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "o = deckforge.ppt.TableStyleOptions();\n"
+            "o.BandedRows = false;\n"
+            "t = deckforge.ppt.Table({'a', 1; 'b', 2});\n"
+            "t.Style = {o};");
         cls.setHelp("The switches of a table's style; first row and banded rows are on at first.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

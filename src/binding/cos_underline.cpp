@@ -10,6 +10,9 @@ class CosUnderline : public CosPPTObjectClassInfo {
 public:
     CosUnderline() : CosPPTObjectClassInfo("Underline") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "t = deckforge.ppt.Text('underlined');\n"
+            "t.Style = {deckforge.ppt.Underline('double')};");
         cls.setHelp(
             "Underlined characters: none, words, single, double, heavy, dotted, dash, wavy and their "
             "variants.");

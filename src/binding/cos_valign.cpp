@@ -10,6 +10,10 @@ class CosVAlign : public CosPPTObjectClassInfo {
 public:
     CosVAlign() : CosPPTObjectClassInfo("VAlign") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "box = deckforge.ppt.TextBox();\n"
+            "box.Style = {deckforge.ppt.VAlign('middle')};\n"
+            "box.add('in the middle');");
         cls.setHelp(
             "The anchor of the text in a box or a cell: top, middle, bottom, or one of them \"Centered\".");
         cls.addSuperclass("deckforge.ppt.Format");
