@@ -11,9 +11,8 @@ public:
     CosBackgroundColor() : CosPPTObjectClassInfo("BackgroundColor") {}
     void initializeClass(ClassDescription& cls) const override {
         cls.setExample(
-            "box = deckforge.ppt.TextBox();\n"
-            "box.Style = {deckforge.ppt.BackgroundColor('#FFF2CC')};\n"
-            "box.add('on a pale yellow');");
+            "c = deckforge.ppt.BackgroundColor('#FFF2CC');\n"
+            "disp(c.Value)");
         cls.setHelp(
             "The fill of a text box or a table cell.\n"
             "  box.Style = {deckforge.ppt.BackgroundColor('lightyellow')};");

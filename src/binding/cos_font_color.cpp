@@ -11,8 +11,10 @@ public:
     CosFontColor() : CosPPTObjectClassInfo("FontColor") {}
     void initializeClass(ClassDescription& cls) const override {
         cls.setExample(
+            "c = deckforge.ppt.FontColor('  Red ');\n"
+            "disp(c.Value)\n"
             "t = deckforge.ppt.Text('red text');\n"
-            "t.Style = {deckforge.ppt.FontColor('red')};");
+            "t.FontColor = c.Value;");
         cls.setHelp("The colour of the characters.");
         cls.addSuperclass("deckforge.ppt.Color");
         cls.addConstructor(

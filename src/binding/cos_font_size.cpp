@@ -11,8 +11,9 @@ public:
     CosFontSize() : CosPPTObjectClassInfo("FontSize") {}
     void initializeClass(ClassDescription& cls) const override {
         cls.setExample(
+            "s = deckforge.ppt.FontSize('28pt');\n"
             "t = deckforge.ppt.Text('large');\n"
-            "t.Style = {deckforge.ppt.FontSize('28pt')};");
+            "t.FontSize = s.Value;");
         cls.setHelp("The size of the characters, from 1pt to 4000pt.");
         cls.addSuperclass("deckforge.ppt.BaseDimension");
         cls.addConstructor(

@@ -12,9 +12,7 @@ public:
     void initializeClass(ClassDescription& cls) const override {
         cls.setExample(
             "b = deckforge.ppt.Bold();\n"
-            "assert(isa(b, 'deckforge.ppt.Format'));\n"
-            "t = deckforge.ppt.Text('strong');\n"
-            "t.Style = {b};");
+            "isa(b, 'deckforge.ppt.Format')");
         cls.setHelp("A styling object that a node holds in its Style; at most one of each kind per node.");
         cls.addSuperclass("deckforge.ppt.Object");
     }

@@ -11,8 +11,9 @@ public:
     CosHAlign() : CosPPTObjectClassInfo("HAlign") {}
     void initializeClass(ClassDescription& cls) const override {
         cls.setExample(
+            "a = deckforge.ppt.HAlign('right');\n"
             "para = deckforge.ppt.Paragraph('to the right');\n"
-            "para.Style = {deckforge.ppt.HAlign('right')};");
+            "para.HAlign = a.Value;");
         cls.setHelp(
             "The alignment of a paragraph: left, right, center, justified, justifiedLow, distributed or "
             "thaiDistributed.");

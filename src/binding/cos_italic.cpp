@@ -11,8 +11,9 @@ public:
     CosItalic() : CosPPTObjectClassInfo("Italic") {}
     void initializeClass(ClassDescription& cls) const override {
         cls.setExample(
+            "i = deckforge.ppt.Italic(true);\n"
             "t = deckforge.ppt.Text('slanted');\n"
-            "t.Style = {deckforge.ppt.Italic(true)};");
+            "t.Italic = i.Value;");
         cls.setHelp("Italic characters.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

@@ -11,8 +11,9 @@ public:
     CosStrike() : CosPPTObjectClassInfo("Strike") {}
     void initializeClass(ClassDescription& cls) const override {
         cls.setExample(
+            "s = deckforge.ppt.Strike('single');\n"
             "t = deckforge.ppt.Text('struck');\n"
-            "t.Style = {deckforge.ppt.Strike('single')};");
+            "t.Strike = s.Style;");
         cls.setHelp("Struck-through characters: none, single or double.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

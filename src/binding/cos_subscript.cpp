@@ -12,10 +12,9 @@ public:
     void initializeClass(ClassDescription& cls) const override {
         cls.setExample(
             "para = deckforge.ppt.Paragraph('H');\n"
-            "sub = deckforge.ppt.Text('2');\n"
-            "sub.Style = {deckforge.ppt.Subscript()};\n"
-            "para.append(sub);\n"
-            "para.append(deckforge.ppt.Text('O'));");
+            "sub = para.append('2');\n"
+            "sub.Subscript = deckforge.ppt.Subscript().Value;\n"
+            "para.append('O');");
         cls.setHelp("Characters lowered below the baseline.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

@@ -12,9 +12,8 @@ public:
     void initializeClass(ClassDescription& cls) const override {
         cls.setExample(
             "para = deckforge.ppt.Paragraph('x');\n"
-            "sup = deckforge.ppt.Text('2');\n"
-            "sup.Style = {deckforge.ppt.Superscript()};\n"
-            "para.append(sup);");
+            "sup = para.append('2');\n"
+            "sup.Superscript = deckforge.ppt.Superscript().Value;");
         cls.setHelp("Characters raised above the baseline; it wins over a Subscript on the same run.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

@@ -13,8 +13,8 @@ public:
         cls.setExample(
             "o = deckforge.ppt.TableStyleOptions();\n"
             "o.BandedRows = false;\n"
-            "t = deckforge.ppt.Table({'a', 1; 'b', 2});\n"
-            "t.Style = {o};");
+            "o.FirstColumn = true;\n"
+            "disp(o.FirstRow)");
         cls.setHelp("The switches of a table's style; first row and banded rows are on at first.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

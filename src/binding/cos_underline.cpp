@@ -11,8 +11,9 @@ public:
     CosUnderline() : CosPPTObjectClassInfo("Underline") {}
     void initializeClass(ClassDescription& cls) const override {
         cls.setExample(
+            "u = deckforge.ppt.Underline('double');\n"
             "t = deckforge.ppt.Text('underlined');\n"
-            "t.Style = {deckforge.ppt.Underline('double')};");
+            "t.Underline = u.Style;");
         cls.setHelp(
             "Underlined characters: none, words, single, double, heavy, dotted, dash, wavy and their "
             "variants.");

@@ -11,8 +11,9 @@ public:
     CosVAlign() : CosPPTObjectClassInfo("VAlign") {}
     void initializeClass(ClassDescription& cls) const override {
         cls.setExample(
+            "a = deckforge.ppt.VAlign('middle');\n"
             "box = deckforge.ppt.TextBox();\n"
-            "box.Style = {deckforge.ppt.VAlign('middle')};\n"
+            "box.VAlign = a.Value;\n"
             "box.add('in the middle');");
         cls.setHelp(
             "The anchor of the text in a box or a cell: top, middle, bottom, or one of them \"Centered\".");

@@ -7,6 +7,16 @@ file(REMOVE_RECURSE ${SCRATCH})
 file(MAKE_DIRECTORY ${SCRATCH}/home ${SCRATCH}/work)
 get_filename_component(script_dir ${SCRIPT} DIRECTORY)
 get_filename_component(script_name ${SCRIPT} NAME_WE)
+# pkg install compiles the library; the compiler cache of the real HOME
+# keeps a second run short.
+find_program(ccache ccache)
+if(ccache AND NOT DEFINED ENV{CCACHE_DIR})
+  execute_process(COMMAND ${ccache} -k cache_dir OUTPUT_VARIABLE cache_dir OUTPUT_STRIP_TRAILING_WHITESPACE
+                  RESULT_VARIABLE rc)
+  if(rc EQUAL 0 AND cache_dir)
+    set(ENV{CCACHE_DIR} ${cache_dir})
+  endif()
+endif()
 set(ENV{HOME} ${SCRATCH}/home)
 execute_process(
   COMMAND ${OCTAVE} --no-gui --norc --no-window-system --no-history --eval
