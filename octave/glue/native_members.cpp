@@ -7,6 +7,7 @@
 #include <octave/cdef-property.h>
 #include <octave/cdef-utils.h>
 #include <octave/ov-builtin.h>
+#include <octave/ov-classdef.h>
 #include <octave/ov-fcn-handle.h>
 #include <octave/ov-struct.h>
 #include <octave/parse.h>
