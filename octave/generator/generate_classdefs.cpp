@@ -62,7 +62,8 @@ std::string octaveWords(std::string const& type) {
     auto it = words.find(type);
     if (it != words.end()) return it->second;
     std::string const scalar = " scalar";
-    if (type.size() > scalar.size() && type.compare(type.size() - scalar.size(), scalar.size(), scalar) == 0 &&
+    if (type.size() > scalar.size() &&
+        type.compare(type.size() - scalar.size(), scalar.size(), scalar) == 0 &&
         type.rfind("deckforge.", 0) == 0)
         return "a " + type.substr(0, type.size() - scalar.size()) + " object";
     return type;
@@ -96,8 +97,8 @@ void writeClassHelp(std::ostream& out, ClassDescription const& cls) {
     if (!cls.properties().empty()) {
         out << "%\n%   Properties:\n";
         for (auto const& p : cls.properties())
-            out << "%     " << p.name << " (" << octaveWords(p.type) << (p.isReadOnly() ? ", read only" : "") << ")"
-                << (p.help.empty() ? "" : "  " + p.help) << "\n";
+            out << "%     " << p.name << " (" << octaveWords(p.type) << (p.isReadOnly() ? ", read only" : "")
+                << ")" << (p.help.empty() ? "" : "  " + p.help) << "\n";
     }
     if (!cls.methods().empty()) {
         out << "%\n%   Methods:\n";

@@ -106,7 +106,11 @@ TEST(ZipWriter, UpdateCopiesUntouchedEntriesAsTheyAreStored) {
     auto path = dir / "old.zip";
     std::string const big(50000, 'x');
     makeZip(path,
-            {{"[Content_Types].xml", "<Types/>"}, {"ppt/", ""}, {"a.xml", big}, {"b.xml", "old b"}, {"e.sigs", ""}},
+            {{"[Content_Types].xml", "<Types/>"},
+             {"ppt/", ""},
+             {"a.xml", big},
+             {"b.xml", "old b"},
+             {"e.sigs", ""}},
             true);
     {  // b.xml private: its replacement keeps that
         int error = 0;
