@@ -266,7 +266,7 @@ void writeClass(fs::path const& folder, ClassDescription const& cls) {
         out << "  end\n";
     }
     out << "end\n";
-    // The example again as a test block: `test deckforge.ppt.<Class>` runs it.
+    // The example again as a test block, which `pkg test deckforge` runs.
     if (!cls.example().empty()) {
         out << "\n%!test\n";
         commentBlock(out, cls.example(), "", "! ");
