@@ -156,13 +156,20 @@ std::string moduleDirectory() {
     return directoryOf(info.dli_fname);
 }
 
-// The host root, that the default template's path hangs from: the library's
-// folder in a build tree. An installed package keeps the library in a folder
-// of its architecture, apart from the script files and the template; those
-// lie beside toolboxdir.m.
+bool holdsScripts(std::string const& dir) {
+    return ::access((dir + "/toolboxdir.m").c_str(), F_OK) == 0;
+}
+
+// The host root, that the default template's path hangs from, or "" while
+// it can't be told: the library's folder in a build tree. An installed
+// package keeps the library in a folder of its architecture, apart from the
+// script files and the template, which lie beside toolboxdir.m: in the
+// folder above for a user's install, elsewhere for a system-wide one. The
+// package's PKG_ADD may run before that folder joins the path.
 std::string hostRoot() {
     std::string const module = moduleDirectory();
-    if (::access((module + "/toolboxdir.m").c_str(), F_OK) == 0) return module;
+    if (holdsScripts(module)) return module;
+    if (holdsScripts(directoryOf(module))) return directoryOf(module);
     if (octave::interpreter* interp = octave::interpreter::the_interpreter()) {
         octave_value f = interp->get_symbol_table().find_function("toolboxdir");
         if (octave_function* fn = f.function_value(true)) {
@@ -170,17 +177,22 @@ std::string hostRoot() {
             if (!file.empty()) return directoryOf(file);
         }
     }
-    return module;
+    return {};
 }
 
 void installHost() {
+    static bool rootKnown = false;
+    if (!rootKnown) {
+        std::string root = hostRoot();
+        rootKnown = !root.empty();
+        host::setQuorixRoot(fl::i18n::to_string(rootKnown ? root : moduleDirectory()));
+    }
     static bool installed = false;
     if (installed) return;
     installed = true;
     static OctaveScriptHost scriptHost;
     setScriptHost(&scriptHost);
     hv::setHost(std::make_shared<OctaveHvHost>());
-    host::setQuorixRoot(fl::i18n::to_string(hostRoot()));
     host::setCurrentDirectoryProvider(
         [] { return fl::i18n::to_string(octave::sys::env::get_current_directory()); });
 }

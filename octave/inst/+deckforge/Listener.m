@@ -33,10 +33,9 @@ end
 
 %!test
 %! d = deckforge.ppt.MessageDispatcher.getTheDispatcher ();
-%! l = addlistener (d, "Message", @(src, evt) evalin ("base", "1;"));
+%! l = addlistener (d, "Message", @(src, evt) error ("a paused listener ran"));
 %! assert (isa (l, "deckforge.Listener"));
 %! assert (l.EventName, "Message");
 %! l.Enabled = false;
 %! d.dispatch (deckforge.ppt.ProgressMessage ("paused", d));
 %! delete (l);
-%! assert (! isvalid (l));
