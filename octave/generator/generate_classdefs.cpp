@@ -56,7 +56,7 @@ std::string octaveWords(std::string const& type) {
         {"logical or empty", "logical scalar or []"},
         {"uint64", "uint64 scalar"},
         {"uint32 or empty", "numeric scalar (whole) or []"},
-        {"host array", "cell array"},
+        {"host array", "any value"},
         {"array of deckforge.ppt.Node", "cell array of deckforge.ppt.Node"},
     };
     auto it = words.find(type);
