@@ -48,7 +48,8 @@ demo: build
 	octave --no-gui --norc --no-window-system --no-history --eval \
 	  "warning('off', 'Octave:shadowed-function'); addpath('$(abspath $(BUILD))', '$(CURDIR)/examples'); demo;"
 
-# The Octave package: $(BUILD)/deckforge-<version>.tar.gz, for `pkg install`.
+# The Octave source package: $(BUILD)/deckforge-<version>.tar.gz, for `pkg install`,
+# which compiles it against the installing Octave.
 package: build
 	cmake --build $(BUILD) --target deckforge_octave_package
 
