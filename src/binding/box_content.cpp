@@ -20,6 +20,7 @@ namespace {
 constexpr char const* kParagraph = "deckforge.ppt.Paragraph";
 constexpr char const* kTable = "deckforge.ppt.Table";
 constexpr char const* kPicture = "deckforge.ppt.Picture";
+constexpr char const* kChart = "deckforge.ppt.Chart";
 
 ListItem toListItem(Value const& element) {
     if (element.isCell()) {
@@ -87,6 +88,10 @@ void replaceValue(BaseTextBox const& box, Value const& value) {
         }
         if (fitsWord(value, kTable) && value.isObject()) {
             placeholder.replace(toObject<Table>(value, kTable));
+            return;
+        }
+        if (fitsWord(value, kChart) && value.isObject()) {
+            placeholder.replace(toObject<Chart>(value, kChart));
             return;
         }
     }

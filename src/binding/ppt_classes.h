@@ -50,6 +50,7 @@
     X(CosGroup)                  \
     X(CosPicture)                \
     X(CosTable)                  \
+    X(CosChart)                  \
     X(CosColSpec)                \
     X(CosText)                   \
     X(CosExternalLink)           \

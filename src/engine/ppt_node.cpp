@@ -94,6 +94,7 @@ void PPTNodeImpl::findNodes(u16string const& name, PPTNodePtr const& root, PPTNo
         switch (child->getNodeType()) {
             case NodeType::BaseTextBox:
             case NodeType::BodyPlaceholder:
+            case NodeType::Chart:
             case NodeType::ContentPlaceholder:
             case NodeType::Picture:
             case NodeType::PicturePlaceholder:

@@ -175,6 +175,11 @@ Table Slide::add(Table const& table) {
     return Table(table.getImpl());
 }
 
+Chart Slide::add(Chart const& chart) {
+    slideImpl()->appendChild(chart.makeInterface());
+    return Chart(chart.getImpl());
+}
+
 TextBox Slide::add(TextBox const& textBox) {
     slideImpl()->appendChild(textBox.makeInterface());
     return TextBox(textBox.getImpl());
