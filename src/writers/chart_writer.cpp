@@ -31,6 +31,20 @@ void makeChartFrame(xercesc::DOMElement* frame, u16string const& relationshipId)
     data->appendChild(reference);
 }
 
+// A chart added without a box gets one that reads well on slides of either
+// aspect (1in from the left, 1.5in from the top, 6in by 4in), rather than a
+// new table's small square.
+void defaultBox(xercesc::DOMElement* frame, ChartImpl const& chart) {
+    xercesc::DOMElement* xfrm = ElementWriter::findChildElement(frame, u"p:xfrm");
+    xercesc::DOMElement* off = ElementWriter::findChildElement(xfrm, xml::kOff);
+    xercesc::DOMElement* ext = ElementWriter::findChildElement(xfrm, xml::kExt);
+    if (!off || !ext) return;
+    if (!chart.getX().isSet()) off->setAttribute(xml::kX, u"914400");
+    if (!chart.getY().isSet()) off->setAttribute(xml::kY, u"1371600");
+    if (!chart.getWidth().isSet()) ext->setAttribute(xml::kCx, u"5486400");
+    if (!chart.getHeight().isSet()) ext->setAttribute(xml::kCy, u"3657600");
+}
+
 }  // namespace
 
 void ChartWriter::write() {
@@ -50,6 +64,7 @@ void ChartWriter::write() {
         if (frame && parent) parent->replaceChild(frame, element);
     } else {
         frame = createTable(*slide, *chart, 0);
+        defaultBox(frame, *chart);
         // A new frame is named after what it shows.
         xercesc::DOMElement* cNvPr = ElementWriter::findChildElement(
             ElementWriter::findChildElement(frame, u"p:nvGraphicFramePr"), xml::kCNvPr);
