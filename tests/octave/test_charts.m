@@ -2,60 +2,10 @@
 % struct array and a dataframe, one in a content placeholder; the deck
 % passes the schema and the compatibility checks, and the chart parts and
 % workbooks hold the values.
-out = fullfile (pwd, 'charts.pptx');
-p = deckforge.ppt.Presentation (out);
-types = {'column', 'stackedColumn', 'percentColumn', 'bar', 'stackedBar', 'line', ...
-         'lineMarkers', 'area', 'stackedArea', 'pie', 'doughnut', 'scatter'};
+[out, n, have_df] = chart_deck (pwd);
 values = [3 5 2; 4 NaN 3; 6 7 1; 2 4 5];
-for k = 1:numel (types)
-  s = p.add ('Title Only');
-  s.replace ('Title', types{k});
-  if any (strcmp (types{k}, {'pie', 'doughnut'}))
-    c = deckforge.ppt.Chart (types{k}, values(:, 1), {'a & b', 'c', 'd', 'e'});
-    c.Colors = {'red', '#00AA00', 'blue', 'orange'};
-  elseif strcmp (types{k}, 'scatter')
-    c = deckforge.ppt.Chart ('scatter', [1 2; 2 4; 3 NaN; 4 8]);
-  else
-    c = deckforge.ppt.Chart (types{k}, values, {'Q1', 'Q2', 'Q3', 'Q4'});
-    c.SeriesNames = {'North', 'South', 'West'};
-  end
-  c.Title = ['A ' types{k} ' chart'];
-  c.XTitle = 'Across';
-  c.YTitle = 'Up';
-  c.X = '1in';  c.Y = '1.6in';  c.Width = '8in';  c.Height = '5in';
-  placed = s.add (c);
-  assert (isa (placed, 'deckforge.ppt.Chart') && strcmp (placed.Type, types{k}));
-end
-
-% A combo: revenue as columns, the margin as a line on a percent axis.
-s = p.add ('Title and Content');
-s.replace ('Title', 'Combo in a placeholder');
-c = deckforge.ppt.Chart ('column', [120 0.12; 150 0.18; 90 0.07], {'2023', '2024', '2025'});
-c.SeriesNames = {'Revenue', 'Margin'};
-c.SecondaryAxis = [false true];
-c.NumberFormat = '0.0';
-c.Legend = 'bottom';
-s.replace ('Content', c);
-assert (isa (s.find ('Content'){1}, 'deckforge.ppt.Chart'));
-
-sales = struct ('Region', {'North', 'South', 'East'}, 'Q1', {10, 12, 9}, 'Q2', {11, 8, 14});
-cs = deckforge.ppt.Chart ('line', sales);
-assert (isequal (cs.SeriesNames, {'Q1', 'Q2'}) && isequal (cs.Categories, {'North', 'South', 'East'}));
-s = p.add ('Title and Content');
-s.replace ('Title', 'From a struct array');
-s.find ('Content'){1}.replace (cs);
-have_df = ! isempty (pkg ('list', 'dataframe'));
-if have_df
-  pkg load dataframe
-  df = dataframe ({'x', 1, 2; 'y', 3, 4}, 'colnames', {'Name', 'A', 'B'});
-  cd = deckforge.ppt.Chart ('bar', df);
-  assert (isequal (cd.SeriesNames, {'A', 'B'}) && isequal (cd.Categories, {'x', 'y'}));
-  cd.Legend = 'none';
-  s = p.add ('Title Only');
-  s.replace ('Title', 'From a dataframe');
-  s.add (cd);
-end
-
+types = 12;
+c = deckforge.ppt.Chart ('column', [120 0.12; 150 0.18; 90 0.07]);
 expect_error (@() deckforge.ppt.Chart ('radar', values), 'deckforge:ppt_error:invalidChartType');
 expect_error (@() deckforge.ppt.Chart ('pie', values), 'deckforge:ppt_error:chartNeedsOneSeries');
 expect_error (@() deckforge.ppt.Chart ('scatter', [1; 2]), 'deckforge:ppt_error:chartNeedsXColumn');
@@ -68,7 +18,6 @@ expect_error (@() set_property (c, 'Colors', {'red', 'nocolour'}), 'deckforge:pp
 b = deckforge.ppt.Chart ('bar', values);
 expect_error (@() set_property (b, 'SecondaryAxis', [true false false]), ...
               'deckforge:ppt_error:chartHasNoSecondaryAxis');
-p.close ();
 check_deck (out);
 
 % Each chart part caches its values with their format, and points into a
@@ -77,8 +26,8 @@ dir_ = fullfile (pwd, 'unpacked');
 if exist (dir_, 'dir'), confirm_recursive_rmdir (false, 'local'); rmdir (dir_, 's'); end
 unzip (out, dir_);
 charts = dir (fullfile (dir_, 'ppt', 'charts', 'chart*.xml'));
-assert (numel (charts) == numel (types) + 2 + have_df);
-combo = fileread (fullfile (dir_, 'ppt', 'charts', sprintf ('chart%d.xml', numel (types) + 1)));
+assert (numel (charts) == n);
+combo = fileread (fullfile (dir_, 'ppt', 'charts', sprintf ('chart%d.xml', types + 1)));
 assert (! isempty (strfind (combo, '<c:lineChart>')) && ! isempty (strfind (combo, '<c:barChart>')));
 assert (! isempty (strfind (combo, '<c:formatCode>0.0</c:formatCode>')));
 assert (! isempty (strfind (combo, '<c:crosses val="max"/>')));
@@ -88,7 +37,7 @@ assert (isempty (strfind (first, '<c:pt idx="1"><c:v>NaN')), 'a gap is no point'
 assert (! isempty (strfind (first, 'schemeClr val="accent2"')), 'theme accents by default');
 pie = fileread (fullfile (dir_, 'ppt', 'charts', 'chart10.xml'));
 assert (! isempty (strfind (pie, '<c:v>a &amp; b</c:v>')) && ! isempty (strfind (pie, 'srgbClr val="00AA00"')));
-slide = fileread (fullfile (dir_, 'ppt', 'slides', sprintf ('slide%d.xml', numel (types) + 1)));
+slide = fileread (fullfile (dir_, 'ppt', 'slides', sprintf ('slide%d.xml', types + 1)));
 assert (! isempty (strfind (slide, '<p:ph')) && ! isempty (strfind (slide, 'drawingml/2006/chart')));
 
 books = dir (fullfile (dir_, 'ppt', 'embeddings', '*.xlsx'));
@@ -101,5 +50,5 @@ assert (! isempty (strfind (sheet, '<c r="D4"')) && isempty (strfind (sheet, '<c
 if isempty (getenv ('DECKFORGE_NO_OFFICE')) && system ('command -v soffice >/dev/null 2>&1') == 0
   [status, output] = system (sprintf ('cd "%s" && soffice --headless --convert-to pdf "%s" >/dev/null 2>&1 && pdfinfo charts.pdf', pwd, out));
   pages = regexp (output, 'Pages:\s+(\d+)', 'tokens', 'once');
-  assert (status == 0 && str2double (pages{1}) == numel (p.Children), 'pdf: %s', output);
+  assert (status == 0 && str2double (pages{1}) == n, 'pdf: %s', output);
 end
