@@ -86,7 +86,7 @@ public:
             "title), Subtitle, Content (object placeholders, and body placeholders of a content "
             "slot), Text (other body placeholders), Picture, Table, Chart, Date, Footer, SlideNumber; "
             "'Content 2' the second of its role, in the layout's order. An exact name always wins. "
-            "Chart, date, footer and slide number placeholders keep the template's content and are "
+            "Date, footer and slide number placeholders keep the template's content and are "
             "no nodes, so their roles find nothing on a slide. Presentation.describe lists the names "
             "and roles of every layout.");
         cls.addMethod(

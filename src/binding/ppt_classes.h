@@ -46,6 +46,7 @@
     X(CosBodyPlaceholder)        \
     X(CosPicturePlaceholder)     \
     X(CosTablePlaceholder)       \
+    X(CosChartPlaceholder)       \
     X(CosContentPlaceholder)     \
     X(CosGroup)                  \
     X(CosPicture)                \

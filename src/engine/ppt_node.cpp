@@ -100,6 +100,7 @@ void PPTNodeImpl::findNodes(u16string const& name, PPTNodePtr const& root, PPTNo
             case NodeType::PicturePlaceholder:
             case NodeType::Table:
             case NodeType::TablePlaceholder:
+            case NodeType::ChartPlaceholder:
             case NodeType::TextBox:
             case NodeType::TextBoxPlaceholder:
                 if (child->getName() == name) result.push_back(child);

@@ -54,7 +54,8 @@ enum class NodeType : std::int32_t {
     Text = 17,
     TextBox = 18,
     TextBoxPlaceholder = 19,
-    Chart = 20
+    Chart = 20,
+    ChartPlaceholder = 21
 };
 
 using PPTNodePtr = boost::shared_ptr<PPTNode>;

@@ -52,3 +52,21 @@ if isempty (getenv ('DECKFORGE_NO_OFFICE')) && system ('command -v soffice >/dev
   pages = regexp (output, 'Pages:\s+(\d+)', 'tokens', 'once');
   assert (status == 0 && str2double (pages{1}) == n, 'pdf: %s', output);
 end
+
+% A real template's chart placeholder takes a chart, by role and as a node;
+% the colours come from that template's theme.
+tpl = fullfile (fileparts (mfilename ('fullpath')), '..', '..', '..', 'shared', 'real-templates', ...
+                'ppt2007_aascu-leadership-6masters.pptx');
+if exist (tpl, 'file')
+  real = fullfile (pwd, 'chart-placeholder.pptx');
+  p = deckforge.ppt.Presentation (real, tpl);
+  s = p.add ('Title and Chart');
+  ph = s.find ('Chart');
+  assert (isa (ph{1}, 'deckforge.ppt.ChartPlaceholder'));
+  assert (isa (ph{1}.replace (deckforge.ppt.Chart ('line', [1 3; 2 5])), 'deckforge.ppt.Chart'));
+  s = p.add ('Title and Chart');
+  s.replace ('Chart', deckforge.ppt.Chart ('pie', [1; 2; 3]));
+  p.add ('Title and Chart');                 % left alone, the placeholder stays
+  p.close ();
+  check_deck (real, tpl);
+end
