@@ -26,8 +26,8 @@ enum class ShapeKind : std::int32_t {
 // The kinds that a layout contributes to a new slide.
 inline bool isPlaceholderKind(ShapeKind kind) {
     return kind == ShapeKind::BodyPlaceholder || kind == ShapeKind::ContentPlaceholder ||
-           kind == ShapeKind::PicturePlaceholder || kind == ShapeKind::TablePlaceholder || kind == ShapeKind::ChartPlaceholder ||
-           kind == ShapeKind::TextBoxPlaceholder;
+           kind == ShapeKind::PicturePlaceholder || kind == ShapeKind::TablePlaceholder ||
+           kind == ShapeKind::ChartPlaceholder || kind == ShapeKind::TextBoxPlaceholder;
 }
 
 }  // namespace ppt
