@@ -42,9 +42,15 @@ assert (! isempty (strfind (slide, '<p:ph')) && ! isempty (strfind (slide, 'draw
 
 books = dir (fullfile (dir_, 'ppt', 'embeddings', '*.xlsx'));
 assert (numel (books) == numel (charts));
-unzip (fullfile (dir_, 'ppt', 'embeddings', books(1).name), fullfile (pwd, 'book1'));
-sheet = fileread (fullfile (pwd, 'book1', 'xl', 'worksheets', 'sheet1.xml'));
-assert (! isempty (strfind (sheet, '<c r="D4"')) && isempty (strfind (sheet, '<c r="C3"')));
+for k = 1:numel (books)                      % every workbook opens and holds numbers
+  into = fullfile (pwd, 'books', books(k).name);
+  unzip (fullfile (dir_, 'ppt', 'embeddings', books(k).name), into);
+  assert (! isempty (strfind (fileread (fullfile (into, 'xl', 'worksheets', 'sheet1.xml')), '<v>')));
+end
+rels = fileread (fullfile (dir_, 'ppt', 'charts', '_rels', 'chart1.xml.rels'));
+book = regexp (rels, 'embeddings/([^"]+\.xlsx)', 'tokens', 'once'){1};
+sheet = fileread (fullfile (pwd, 'books', book, 'xl', 'worksheets', 'sheet1.xml'));
+assert (! isempty (strfind (sheet, '<c r="D4"')) && isempty (strfind (sheet, '<c r="C3"')), 'chart 1: %s', sheet);
 
 % LibreOffice draws every slide.
 if isempty (getenv ('DECKFORGE_NO_OFFICE')) && system ('command -v soffice >/dev/null 2>&1') == 0
