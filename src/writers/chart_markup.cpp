@@ -2,6 +2,7 @@
 
 #include <xlsxwriter.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -212,17 +213,27 @@ private:
         out += "<c:smooth val=\"0\"/></c:ser>";
     }
 
+    // A second axis needs a first: with every series asked onto it, they
+    // all stay on the primary axis, as lines.
+    bool combo() const {
+        auto const& flags = chart.getSecondaryAxis();
+        return chart.hasSecondaryAxis() && std::find(flags.begin(), flags.end(), false) != flags.end();
+    }
+    bool onSecondaryAxis(std::size_t series) const { return combo() && chart.getSecondaryAxis()[series]; }
+    bool allLines() const { return chart.hasSecondaryAxis() && !combo(); }
+
     // The series of one axis group: the primary ones in the chart's type,
     // or those on the secondary axis as lines.
     void categoryGroup(bool secondary) {
         ChartType const type = chart.getType();
         std::vector<std::size_t> members;
         for (std::size_t i = 0; i < chart.getSeriesCount(); ++i)
-            if (chart.getSecondaryAxis()[i] == secondary) members.push_back(i);
+            if (onSecondaryAxis(i) == secondary) members.push_back(i);
         if (members.empty()) return;
         std::string const axes = std::string("<c:axId val=\"") + (secondary ? kCatAxis2 : kCatAxis) +
                                  "\"/><c:axId val=\"" + (secondary ? kValAxis2 : kValAxis) + "\"/>";
-        bool const line = secondary || type == ChartType::Line || type == ChartType::LineMarkers;
+        bool const line =
+            secondary || allLines() || type == ChartType::Line || type == ChartType::LineMarkers;
         if (line) {
             out += "<c:lineChart><c:grouping val=\"standard\"/><c:varyColors val=\"0\"/>";
             for (std::size_t i : members) lineSeries(i, !secondary && type == ChartType::LineMarkers);
@@ -317,7 +328,7 @@ private:
         axis("catAx", kCatAxis, kValAxis, horizontal ? "l" : "b", false, false, categoryTitle, false,
              "autoZero");
         axis("valAx", kValAxis, kCatAxis, horizontal ? "b" : "l", false, true, valueTitle, true, "autoZero");
-        if (!chart.hasSecondaryAxis()) return;
+        if (!combo()) return;
         axis("catAx", kCatAxis2, kValAxis2, "b", true, false, u16string(), false, "autoZero");
         axis("valAx", kValAxis2, kCatAxis2, "r", false, false, u16string(), true, "max");
     }
