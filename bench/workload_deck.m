@@ -1,4 +1,4 @@
-function workload_deck (n, out, png)
+function workload_deck (n, out, png, charts)
   % Builds the benchmark deck of n slides into `out` on the default
   % template, as a user's script would, and prints two lines for the driver
   % (bench/run_workload): Octave's resident memory before the first
@@ -6,7 +6,9 @@ function workload_deck (n, out, png)
   %   octave --eval "addpath('<build>', 'bench'); workload_deck(1000, '/tmp/w.pptx')"
   % The picture on every tenth slide is `png`, a 640 x 480 PNG. Without it
   % the script draws one first; the driver makes it before timing, as a
-  % user's pictures exist before the script that places them.
+  % user's pictures exist before the script that places them. With
+  % `charts` true, every tenth slide also gets a native column chart of
+  % 4 series by 6 categories, with its embedded workbook.
   [rss0, ~] = memory_kb ();
   p = deckforge.ppt.Presentation (out);
   p.open ();
@@ -19,7 +21,10 @@ function workload_deck (n, out, png)
     header{c} = deckforge.ppt.Paragraph (sprintf ('Col %d', c));
     header{c}.Bold = true;
   end
-  if nargin < 3
+  if nargin < 4
+    charts = false;
+  end
+  if nargin < 3 || isempty (png)
     png = [tempname() '.png'];
     imwrite (uint8 (kron (magic (8), ones (60, 80))), png);   % 640 x 480 pixels
     cleanup = onCleanup (@() delete (png));
@@ -69,6 +74,16 @@ function workload_deck (n, out, png)
       pic.Width = '3.2in';
       pic.Height = '2.4in';
       s.add (pic);
+    end
+    if charts && mod (i, 10) == 3
+      ch = deckforge.ppt.Chart ('column', round (100 * rand (6, 4)), {'Jan', 'Feb', 'Mar', 'Apr', 'May', 'Jun'});
+      ch.Title = sprintf ('Chart on slide %d', i);
+      ch.SeriesNames = {'North', 'South', 'East', 'West'};
+      ch.X = '5in';
+      ch.Y = '1.5in';
+      ch.Width = '4.5in';
+      ch.Height = '3in';
+      s.add (ch);
     end
   end
   p.close ();

@@ -131,7 +131,9 @@ hvArray dataframeRows(octave_value const& frame) {
     std::size_t const top = static_cast<std::size_t>(all.rows()) - rows;
     std::size_t const left = static_cast<std::size_t>(all.columns()) - cols;
     for (std::size_t c = 0; c < cols && c < static_cast<std::size_t>(names.numel()); ++c) {
-        std::string const& name = names(c);
+        // The package keeps its column names as a padded character matrix.
+        std::string name = names(c);
+        name.erase(name.find_last_not_of(' ') + 1);
         for (std::size_t r = 0; r < rows; ++r)
             records.setField(r, name, hvFromOctave(all(top + r, left + c)));
     }

@@ -4,6 +4,7 @@
 #include "binding/invoke.h"
 #include "binding/marshal.h"
 #include "nodes/base_text_box.h"
+#include "nodes/chart_placeholder.h"
 #include "nodes/content_placeholder.h"
 #include "nodes/picture.h"
 #include "nodes/picture_placeholder.h"
@@ -20,6 +21,7 @@ namespace {
 constexpr char const* kParagraph = "deckforge.ppt.Paragraph";
 constexpr char const* kTable = "deckforge.ppt.Table";
 constexpr char const* kPicture = "deckforge.ppt.Picture";
+constexpr char const* kChart = "deckforge.ppt.Chart";
 
 ListItem toListItem(Value const& element) {
     if (element.isCell()) {
@@ -69,8 +71,9 @@ void replaceValue(BaseTextBox const& box, Value const& value) {
     BaseTextBoxImpl* impl = box.baseTextBoxImpl();
     // The placeholders that an object may replace check that first, whatever
     // the value; text-only placeholders meet their guard at the first paragraph.
-    bool const objectsMayReplace =
-        impl->isA(NodeType::PicturePlaceholder) || impl->isA(NodeType::TablePlaceholder);
+    bool const objectsMayReplace = impl->isA(NodeType::PicturePlaceholder) ||
+                                   impl->isA(NodeType::TablePlaceholder) ||
+                                   impl->isA(NodeType::ChartPlaceholder);
     if (objectsMayReplace) static_cast<TextBoxPlaceholderImpl*>(impl)->replaceGuard();
     if (value.isEmpty()) {
         if (impl->isA(NodeType::ContentPlaceholder)) return;
@@ -89,10 +92,18 @@ void replaceValue(BaseTextBox const& box, Value const& value) {
             placeholder.replace(toObject<Table>(value, kTable));
             return;
         }
+        if (fitsWord(value, kChart) && value.isObject()) {
+            placeholder.replace(toObject<Chart>(value, kChart));
+            return;
+        }
     }
     // A Picture object takes the place of a placeholder that holds pictures.
     if (impl->isA(NodeType::PicturePlaceholder) && value.isObject() && fitsWord(value, kPicture)) {
         PicturePlaceholder(impl).replace(toObject<Picture>(value, kPicture));
+        return;
+    }
+    if (impl->isA(NodeType::ChartPlaceholder) && value.isObject() && fitsWord(value, kChart)) {
+        ChartPlaceholder(impl).replace(toObject<Chart>(value, kChart));
         return;
     }
     if (impl->isA(NodeType::TablePlaceholder) && value.isObject() && fitsWord(value, kTable)) {
@@ -111,6 +122,7 @@ void replaceValueInEach(PPTNodeList const& hits, Value const& value) {
             case NodeType::ContentPlaceholder:
             case NodeType::PicturePlaceholder:
             case NodeType::TablePlaceholder:
+            case NodeType::ChartPlaceholder:
             case NodeType::TextBox:
             case NodeType::TextBoxPlaceholder:
                 replaceValue(BaseTextBox(hit->getImpl()), value);

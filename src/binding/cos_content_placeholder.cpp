@@ -24,7 +24,7 @@ public:
             "A placeholder of a slide's layout for any content: text, lists, a picture or a table.\n"
             "  s = p.add('Title and Content');\n"
             "  s.replace('Content', {'Point', {'detail'}});   % by name, on the slide\n"
-            "A Table, or a struct array or dataframe made into one, takes its place:\n"
+            "A Table or a Chart, or a struct array or dataframe made into a table, takes its place:\n"
             "  s.find('Content'){1}.replace(struct('Item', {'a', 'b'}, 'Count', {1, 2}));\n"
             "A cell array stays a list of paragraphs; make a Table of it to get a table.");
         cls.addSuperclass("deckforge.ppt.PicturePlaceholder");
@@ -32,6 +32,15 @@ public:
         // Before the "any" forms, which would take a picture or a table as a value.
         addReplaceByPicture(cls);
         addReplaceByTable<ContentPlaceholder>(cls);
+        constexpr char const* kChart = "deckforge.ppt.Chart";
+        cls.addMethod(
+            "replace", kChart, {kChart},
+            [](Call& c) {
+                Chart const chart = c.self<ContentPlaceholder>().replace(c.object<Chart>(0));
+                return toScript(static_cast<PPTObject const&>(chart));
+            },
+            "replace(chart): a copy of the chart stands where the placeholder stood, in its box; returns "
+            "it.");
         addBoxValueMethods(cls);
     }
 };

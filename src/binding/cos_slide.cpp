@@ -1,6 +1,7 @@
 #include "binding/accessors.h"
 #include "binding/box_content.h"
 #include "binding/ppt_classes.h"
+#include "nodes/chart.h"
 #include "nodes/picture.h"
 #include "nodes/table.h"
 #include "engine/slide.h"
@@ -59,6 +60,7 @@ void setNotes(PPTObject const& self, Value const& value) {
 }
 constexpr char const* kPicture = "deckforge.ppt.Picture";
 constexpr char const* kTable = "deckforge.ppt.Table";
+constexpr char const* kChart = "deckforge.ppt.Chart";
 }  // namespace
 
 class CosSlide : public CosPPTObjectClassInfo {
@@ -92,7 +94,7 @@ public:
             "title), Subtitle, Content (object placeholders, and body placeholders of a content "
             "slot), Text (other body placeholders), Picture, Table, Chart, Date, Footer, SlideNumber; "
             "'Content 2' the second of its role, in the layout's order. An exact name always wins. "
-            "Chart, date, footer and slide number placeholders keep the template's content and are "
+            "Date, footer and slide number placeholders keep the template's content and are "
             "no nodes, so their roles find nothing on a slide. Presentation.describe lists the names "
             "and roles of every layout.");
         cls.addMethod(
@@ -116,6 +118,13 @@ public:
                 return toScript(static_cast<PPTObject const&>(table));
             },
             "add(table): the table itself on the slide, above what is there; returns it.");
+        cls.addMethod(
+            "add", kChart, {kChart},
+            [](Call& c) {
+                Chart chart = c.self<Slide>().add(c.object<Chart>(0));
+                return toScript(static_cast<PPTObject const&>(chart));
+            },
+            "add(chart): the chart itself on the slide, above what is there; returns it.");
         // By name, on this slide.
         cls.addMethod(
             "add", words::Void, {words::String, words::String},

@@ -46,10 +46,12 @@
     X(CosBodyPlaceholder)        \
     X(CosPicturePlaceholder)     \
     X(CosTablePlaceholder)       \
+    X(CosChartPlaceholder)       \
     X(CosContentPlaceholder)     \
     X(CosGroup)                  \
     X(CosPicture)                \
     X(CosTable)                  \
+    X(CosChart)                  \
     X(CosColSpec)                \
     X(CosText)                   \
     X(CosExternalLink)           \

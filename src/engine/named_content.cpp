@@ -32,6 +32,7 @@ ShapeImpl* contentHolder(PPTNodePtr const& hit) {
         case NodeType::PicturePlaceholder:
         case NodeType::Table:
         case NodeType::TablePlaceholder:
+        case NodeType::ChartPlaceholder:
         case NodeType::TextBox:
         case NodeType::TextBoxPlaceholder:
             return dynamic_cast<ShapeImpl*>(hit->nodeImpl());

@@ -165,6 +165,8 @@ u16string roleOfNode(PPTNode const& node, TemplateLayout const* layout, int& bod
             return u"Picture";
         case NodeType::TablePlaceholder:
             return u"Table";
+        case NodeType::ChartPlaceholder:
+            return u"Chart";
         case NodeType::TextBoxPlaceholder: {
             auto const* impl = node.getImplAs<TextBoxPlaceholderImpl>();
             return impl ? roleOfType(impl->getPlaceholderType(), u16string(), false) : u16string();

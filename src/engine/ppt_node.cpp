@@ -94,11 +94,13 @@ void PPTNodeImpl::findNodes(u16string const& name, PPTNodePtr const& root, PPTNo
         switch (child->getNodeType()) {
             case NodeType::BaseTextBox:
             case NodeType::BodyPlaceholder:
+            case NodeType::Chart:
             case NodeType::ContentPlaceholder:
             case NodeType::Picture:
             case NodeType::PicturePlaceholder:
             case NodeType::Table:
             case NodeType::TablePlaceholder:
+            case NodeType::ChartPlaceholder:
             case NodeType::TextBox:
             case NodeType::TextBoxPlaceholder:
                 if (child->getName() == name) result.push_back(child);

@@ -53,7 +53,9 @@ enum class NodeType : std::int32_t {
     TableRow = 16,
     Text = 17,
     TextBox = 18,
-    TextBoxPlaceholder = 19
+    TextBoxPlaceholder = 19,
+    Chart = 20,
+    ChartPlaceholder = 21
 };
 
 using PPTNodePtr = boost::shared_ptr<PPTNode>;

@@ -8,6 +8,7 @@
 #include "nodes/picture.h"
 #include "nodes/picture_placeholder.h"
 #include "nodes/table.h"
+#include "nodes/chart_placeholder.h"
 #include "nodes/table_placeholder.h"
 #include "nodes/text_box.h"
 #include "nodes/text_box_placeholder.h"
@@ -38,6 +39,8 @@ ShapeImpl* makeShapeNode(TemplateShape const& shape) {
             return new TableImpl(name, shape.uid);
         case ShapeKind::TablePlaceholder:
             return new TablePlaceholderImpl(name, shape.uid, shape.placeholderType);
+        case ShapeKind::ChartPlaceholder:
+            return new ChartPlaceholderImpl(name, shape.uid, shape.placeholderType);
         case ShapeKind::TextBox:
             return new TextBoxImpl(name, shape.uid);
         case ShapeKind::TextBoxPlaceholder:
@@ -173,6 +176,11 @@ Picture Slide::add(Picture const& picture) {
 Table Slide::add(Table const& table) {
     slideImpl()->appendChild(table.makeInterface());
     return Table(table.getImpl());
+}
+
+Chart Slide::add(Chart const& chart) {
+    slideImpl()->appendChild(chart.makeInterface());
+    return Chart(chart.getImpl());
 }
 
 TextBox Slide::add(TextBox const& textBox) {

@@ -23,6 +23,7 @@ class Picture;
 class PresentationModel;
 class Slide;
 class Table;
+class Chart;
 class TextBox;
 class TemplateLayout;
 class TemplateShape;
@@ -120,6 +121,7 @@ public:
     // it stands in a tree already.
     Picture add(Picture const& picture);
     Table add(Table const& table);
+    Chart add(Chart const& chart);
     TextBox add(TextBox const& textBox);
 
     u16string getNotes() const { return slideImpl()->getNotes(); }

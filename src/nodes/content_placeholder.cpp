@@ -55,6 +55,10 @@ Table ContentPlaceholderImpl::replace(Table const& table) {
     return Table(yieldPlaceTo(table.makeInterface())->getImpl());
 }
 
+Chart ContentPlaceholderImpl::replace(Chart const& chart) {
+    return Chart(yieldPlaceTo(chart.makeInterface())->getImpl());
+}
+
 ContentPlaceholder::ContentPlaceholder() : PicturePlaceholder(new ContentPlaceholderImpl()) {}
 
 }  // namespace ppt

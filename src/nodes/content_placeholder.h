@@ -1,6 +1,7 @@
 // A content placeholder: a picture placeholder that also lets a Table take its place.
 #pragma once
 
+#include "nodes/chart.h"
 #include "nodes/picture_placeholder.h"
 #include "nodes/table.h"
 
@@ -27,6 +28,8 @@ public:
     // A copy of the table takes this placeholder's place on the slide and
     // is returned; see yieldPlaceTo.
     virtual Table replace(Table const& table);
+    // The same for a chart, which takes the placeholder's box.
+    virtual Chart replace(Chart const& chart);
     using PicturePlaceholderImpl::replace;
 };
 
@@ -40,6 +43,7 @@ public:
     }
 
     Table replace(Table const& table) { return contentPlaceholderImpl()->replace(table); }
+    Chart replace(Chart const& chart) { return contentPlaceholderImpl()->replace(chart); }
     using PicturePlaceholder::replace;
 
     ContentPlaceholderImpl* contentPlaceholderImpl() const { return getImplAs<ContentPlaceholderImpl>(); }

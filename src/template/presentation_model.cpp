@@ -375,8 +375,8 @@ void PresentationModel::readShape(DOMElement* element, TemplateShapeList& shapes
     shapes.push_back(shape);
     element->setAttribute(kDataUid, shape->uid.c_str());
 
-    if (kind == ShapeKind::TablePlaceholder || kind == ShapeKind::TextBoxPlaceholder ||
-        kind == ShapeKind::PicturePlaceholder)
+    if (kind == ShapeKind::TablePlaceholder || kind == ShapeKind::ChartPlaceholder ||
+        kind == ShapeKind::TextBoxPlaceholder || kind == ShapeKind::PicturePlaceholder)
         shape->placeholderType = getPlaceholderType(element);
 
     if (kind == ShapeKind::Group) {
@@ -622,6 +622,7 @@ ShapeKind PresentationModel::classifyShape(DOMElement const* element) {
         if (type == u"ctrTitle" || type == u"subTitle" || type == u"title")
             return ShapeKind::TextBoxPlaceholder;
         if (type == u"tbl") return ShapeKind::TablePlaceholder;
+        if (type == u"chart") return ShapeKind::ChartPlaceholder;
         if (type == u"pic" || type == u"clipArt") return ShapeKind::PicturePlaceholder;
         // "obj", "dt", "ftr", "sldNum", ...: not a placeholder of this system.
         return ShapeKind::None;

@@ -19,14 +19,15 @@ enum class ShapeKind : std::int32_t {
     Table = 13,
     TablePlaceholder = 15,
     TextBox = 18,
-    TextBoxPlaceholder = 19
+    TextBoxPlaceholder = 19,
+    ChartPlaceholder = 21
 };
 
 // The kinds that a layout contributes to a new slide.
 inline bool isPlaceholderKind(ShapeKind kind) {
     return kind == ShapeKind::BodyPlaceholder || kind == ShapeKind::ContentPlaceholder ||
            kind == ShapeKind::PicturePlaceholder || kind == ShapeKind::TablePlaceholder ||
-           kind == ShapeKind::TextBoxPlaceholder;
+           kind == ShapeKind::ChartPlaceholder || kind == ShapeKind::TextBoxPlaceholder;
 }
 
 }  // namespace ppt

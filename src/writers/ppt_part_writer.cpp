@@ -28,6 +28,13 @@ char16_t const* const kNotesSlideRelationship =
 char16_t const* const kChartRelationship =
     u"http://schemas.openxmlformats.org/officeDocument/2006/relationships/chart";
 
+char16_t const* const kPackageRelationship =
+    u"http://schemas.openxmlformats.org/officeDocument/2006/relationships/package";
+char16_t const* const kChartContentType =
+    u"application/vnd.openxmlformats-officedocument.drawingml.chart+xml";
+char16_t const* const kWorkbookContentType =
+    u"application/vnd.openxmlformats-officedocument.spreadsheetml.sheet";
+
 u16string slidePartName(std::uint64_t number) {
     return u"/ppt/slides/slide" + num2str(static_cast<unsigned long>(number)) + u".xml";
 }
@@ -266,6 +273,27 @@ u16string PPTPartWriter::addImageData(u16string const& slidePartName, std::strin
     if (!hasPart(slidePartName)) return u16string();
     opc::model::Part slide = getPart(slidePartName);
     return slide.createInternalRelationship(kImageRelationship, opc::model::URI(name), u"").getID();
+}
+
+char16_t const* const PPTPartWriter::kChartWorkbookId = u"rId1";
+
+u16string PPTPartWriter::addChart(u16string const& slidePartName, std::string const& chartXml,
+                                  std::string const& workbook) {
+    if (!hasPart(slidePartName)) return u16string();
+    auto const write = [](opc::model::Part& part, std::string const& bytes) {
+        boost::shared_ptr<opc::OutputStream> output = part.getOutputStream();
+        output->write(bytes.data(), bytes.size());
+        output->close();
+    };
+    u16string const workbookName = newPartName(u"/ppt/embeddings/chartData", u".xlsx");
+    opc::model::Part data = createPart(workbookName, kWorkbookContentType);
+    write(data, workbook);
+    u16string const chartName = newPartName(u"/ppt/charts/chart", u".xml");
+    opc::model::Part chart = createPart(chartName, kChartContentType);
+    write(chart, chartXml);
+    chart.createInternalRelationship(kPackageRelationship, opc::model::URI(workbookName), kChartWorkbookId);
+    opc::model::Part slide = getPart(slidePartName);
+    return slide.createInternalRelationship(kChartRelationship, opc::model::URI(chartName), u"").getID();
 }
 
 u16string PPTPartWriter::addHyperlink(u16string const& slidePartName, u16string const& target) {

@@ -48,6 +48,13 @@ public:
     // An external hyperlink relationship of the slide; empty text for an empty
     // target or a slide part that doesn't exist.
     u16string addHyperlink(u16string const& slidePartName, u16string const& target);
+    // A new chart part of the markup, related from the slide, and beside
+    // it the workbook that holds its data, related from the chart as
+    // kChartWorkbookId. Gives the slide's relationship id; empty text, and
+    // no part, for a slide part that doesn't exist.
+    u16string addChart(u16string const& slidePartName, std::string const& chartXml,
+                       std::string const& workbook);
+    static char16_t const* const kChartWorkbookId;
 
 private:
     u16string newMediaName(u16string const& extension);

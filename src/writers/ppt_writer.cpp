@@ -8,6 +8,7 @@
 #include "formats/dimension_formats.h"
 #include "nodes/table.h"
 #include "template/presentation_model.h"
+#include "writers/chart_writer.h"
 #include "writers/picture_writer.h"
 #include "writers/ppt_part_writer.h"
 #include "writers/unwritten_slides.h"
@@ -131,6 +132,10 @@ void PPTWriter::endTable() {
 
 void PPTWriter::writePicture(PictureImpl const* picture, xercesc::DOMNode* parent) {
     PictureWriter(picture, this, parent).write();
+}
+
+void PPTWriter::writeChart(ChartImpl const* chart, xercesc::DOMNode* parent) {
+    ChartWriter(chart, this, parent).write();
 }
 
 }  // namespace ppt

@@ -32,6 +32,7 @@ class PresentationImpl;
 class PresentationModel;
 class PictureImpl;
 class TableImpl;
+class ChartImpl;
 
 class PPTWriter : private boost::noncopyable {
 public:
@@ -110,6 +111,7 @@ public:
     void endTable();
 
     void writePicture(PictureImpl const* picture, xercesc::DOMNode* parent);
+    void writeChart(ChartImpl const* chart, xercesc::DOMNode* parent);
 
 private:
     void init(boost::shared_ptr<OPCPackage> const& package);
