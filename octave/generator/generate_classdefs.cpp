@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <map>
 #include <set>
 #include <sstream>
 #include <string>
@@ -25,10 +26,11 @@ namespace {
 constexpr char const* kPackage = "deckforge.ppt";
 
 // Octave help: each line as a comment.
-void commentBlock(std::ostream& out, std::string const& text, std::string const& indent) {
+void commentBlock(std::ostream& out, std::string const& text, std::string const& indent,
+                  std::string const& lead = " ") {
     std::istringstream lines(text);
     std::string line;
-    while (std::getline(lines, line)) out << indent << "%" << (line.empty() ? "" : " " + line) << "\n";
+    while (std::getline(lines, line)) out << indent << "%" << (line.empty() ? "" : lead + line) << "\n";
 }
 
 std::string quote(std::string const& s) {
@@ -37,13 +39,43 @@ std::string quote(std::string const& s) {
     return q + "'";
 }
 
+// A type as the registry words it, in the words of Octave's own help.
+std::string octaveWords(std::string const& type) {
+    static std::map<std::string, std::string> const words = {
+        {words::String, "char row vector or string"},
+        {words::Logical, "logical scalar"},
+        {words::UInt32, "numeric scalar (whole)"},
+        {words::UInt64, "numeric scalar (whole)"},
+        {words::Double, "numeric scalar"},
+        {words::Any, "any value"},
+        {words::NodeVector, "cell array of deckforge.ppt.Node"},
+        {"text", "char row vector or string"},
+        {"text or empty", "char row vector, string or []"},
+        {"dimension text or empty", "char row vector with a unit, such as '2in', or []"},
+        {"logical", "logical scalar"},
+        {"logical or empty", "logical scalar or []"},
+        {"uint64", "uint64 scalar"},
+        {"uint32 or empty", "numeric scalar (whole) or []"},
+        {"host array", "any value"},
+        {"array of deckforge.ppt.Node", "cell array of deckforge.ppt.Node"},
+    };
+    auto it = words.find(type);
+    if (it != words.end()) return it->second;
+    std::string const scalar = " scalar";
+    if (type.size() > scalar.size() &&
+        type.compare(type.size() - scalar.size(), scalar.size(), scalar) == 0 &&
+        type.rfind("deckforge.", 0) == 0)
+        return "a " + type.substr(0, type.size() - scalar.size()) + " object";
+    return type;
+}
+
 std::string signatureLine(std::string const& name, MethodInfo const& m) {
     std::string s = name + "(";
     auto inputs = m.callerInputs();
-    for (std::size_t i = 0; i < inputs.size(); ++i) s += (i ? ", " : "") + inputs[i];
+    for (std::size_t i = 0; i < inputs.size(); ++i) s += (i ? ", " : "") + octaveWords(inputs[i]);
     s += ")";
     if (m.kind != MethodInfo::Kind::Constructor && m.signature.result != words::Void)
-        s += " -> " + m.signature.result;
+        s += " -> " + octaveWords(m.signature.result);
     return s;
 }
 
@@ -65,8 +97,8 @@ void writeClassHelp(std::ostream& out, ClassDescription const& cls) {
     if (!cls.properties().empty()) {
         out << "%\n%   Properties:\n";
         for (auto const& p : cls.properties())
-            out << "%     " << p.name << " (" << p.type << (p.isReadOnly() ? ", read only" : "") << ")"
-                << (p.help.empty() ? "" : "  " + p.help) << "\n";
+            out << "%     " << p.name << " (" << octaveWords(p.type) << (p.isReadOnly() ? ", read only" : "")
+                << ")" << (p.help.empty() ? "" : "  " + p.help) << "\n";
     }
     if (!cls.methods().empty()) {
         out << "%\n%   Methods:\n";
@@ -79,7 +111,11 @@ void writeClassHelp(std::ostream& out, ClassDescription const& cls) {
         for (auto const& e : cls.events())
             out << "%     " << e.name << " with a " << e.dataClass << ": " << e.help << "\n";
     }
-    out << "%\n%   Generated at build time from the library's class registry.\n\n";
+    if (!cls.example().empty()) {
+        out << "%\n%   Example:\n";
+        commentBlock(out, cls.example(), "", "     ");
+    }
+    out << "\n";
 }
 
 // What only the root classes carry: the native pointer, identity and
@@ -146,19 +182,21 @@ void writeClass(fs::path const& folder, ClassDescription const& cls) {
     std::ostringstream out;
     std::string full = quote(cls.fullName());
     ScriptMembers const members = scriptMembers(cls);
+    // The class help inside the classdef block, where every Octave release
+    // looks for it (only newer ones look above the block as well).
+    out << "classdef " << cls.getName() << " < handle\n";
     writeClassHelp(out, cls);
-    out << "classdef " << cls.getName() << " < handle\n\n";
 
     if (!members.readWrite.empty()) {
         out << "  properties (Dependent)\n";
         for (auto const& m : members.readWrite)
-            out << "    " << m.info->name << "  % " << m.info->type << "\n";
+            out << "    " << m.info->name << "  % " << octaveWords(m.info->type) << "\n";
         out << "  end\n\n";
     }
     if (!members.readOnly.empty()) {
         out << "  properties (Dependent, SetAccess = private)\n";
         for (auto const& m : members.readOnly)
-            out << "    " << m.info->name << "  % " << m.info->type << ", read only\n";
+            out << "    " << m.info->name << "  % " << octaveWords(m.info->type) << ", read only\n";
         out << "  end\n\n";
     }
     writeRootMembers(out);
@@ -228,6 +266,11 @@ void writeClass(fs::path const& folder, ClassDescription const& cls) {
         out << "  end\n";
     }
     out << "end\n";
+    // The example again as a test block, which `pkg test deckforge` runs.
+    if (!cls.example().empty()) {
+        out << "\n%!test\n";
+        commentBlock(out, cls.example(), "", "! ");
+    }
 
     // Unchanged files keep their time stamps, so Octave doesn't reload them.
     fs::path file = folder / (cls.getName() + ".m");

@@ -7,7 +7,10 @@
 #include <octave/cdef-property.h>
 #include <octave/cdef-utils.h>
 #include <octave/ov-builtin.h>
+#include <octave/ov-classdef.h>
 #include <octave/ov-fcn-handle.h>
+#include <octave/ov-struct.h>
+#include <octave/parse.h>
 
 #include "binding/invoke.h"
 #include "binding/package.h"
@@ -21,6 +24,8 @@ using ppt::mi::ClassDescription;
 using ppt::mi::PackageTree;
 using ppt::mi::ScriptMembers;
 
+#if DECKFORGE_NATIVE_MEMBERS
+
 namespace {
 
 // A member as Octave calls it. It pushes no stack frame: it runs no script
@@ -28,12 +33,17 @@ namespace {
 // frames of its own.
 class NativeMember : public octave_builtin {
 public:
-    NativeMember(Member member, MemberOperation operation, std::string const& doc)
+    NativeMember(Member member, MemberOperation operation, std::string const& doc, std::string const& file)
         : octave_builtin(static_cast<octave_builtin::fcn>(nullptr), member.name, doc),
           mMember(std::move(member)),
-          mOperation(operation) {
+          mOperation(operation),
+          mFile(file) {
         stash_dispatch_class(mMember.className);
     }
+
+    // The classdef file of the member it stands for: help and which name
+    // that file instead of a built-in function.
+    std::string fcn_file_name() const override { return mFile; }
 
     octave_value_list call(octave::tree_evaluator&, int, octave_value_list const& args) override {
         return run(args);
@@ -55,6 +65,7 @@ private:
 
     Member mMember;
     MemberOperation mOperation;
+    std::string mFile;
 };
 
 // Functions swapped out, which may be running at the swap (the script
@@ -83,7 +94,8 @@ void const* identityOf(octave::cdef_class const& cls) {
 
 octave_value nativeMember(Member member, MemberOperation operation, octave_value const& replaced) {
     octave_function* old = replaced.function_value(true);
-    octave_value fn(new NativeMember(std::move(member), operation, old ? old->doc_string() : std::string()));
+    octave_value fn(new NativeMember(std::move(member), operation, old ? old->doc_string() : std::string(),
+                                     old ? old->fcn_file_name() : std::string()));
     keptFunctions().push_back(replaced);
     keptFunctions().push_back(fn);
     return fn;
@@ -168,6 +180,21 @@ octave::cdef_object newClassObject(std::string const& className, MemberOperation
     }
     return bound.prototype.copy();
 }
+
+#else  // the plain script classes
+
+void bindNativeMembers(octave::cdef_class const&, MemberOperation) {}
+
+octave::cdef_object newClassObject(std::string const& className, MemberOperation) {
+    octave_scalar_map marker;
+    marker.assign(kBaseMarker, true);
+    octave_value_list made = octave::feval(className, ovl(marker), 1);
+    if (made.length() < 1 || !made(0).is_classdef_object())
+        error("deckforge: the constructor of %s made no object", className.c_str());
+    return made(0).classdef_object_value()->get_object();
+}
+
+#endif
 
 }  // namespace octave_glue
 }  // namespace deckforge

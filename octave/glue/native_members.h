@@ -15,6 +15,7 @@
 #include <vector>
 
 #include <octave/oct.h>
+#include <octave/version.h>
 #include <octave/cdef-class.h>
 #include <octave/cdef-object.h>
 
@@ -22,6 +23,20 @@
 
 namespace deckforge {
 namespace octave_glue {
+
+// The swap reaches into Octave's classdef internals, which change between
+// releases: it is built only for the releases it was tried on. Elsewhere the
+// script members stay in place and objects come from the script
+// constructor: slower, never broken.
+#if !defined(DECKFORGE_NO_NATIVE_MEMBERS) && OCTAVE_MAJOR_VERSION >= 7 && OCTAVE_MAJOR_VERSION <= 9
+#define DECKFORGE_NATIVE_MEMBERS 1
+#else
+#define DECKFORGE_NATIVE_MEMBERS 0
+#endif
+
+// The argument of a script constructor that makes an object with no native
+// object, for the caller to attach one.
+constexpr char const* kBaseMarker = "deckforge_base__";
 
 // One generated member, as its script code calls the gateway.
 struct Member {
@@ -38,7 +53,8 @@ struct Member {
 // the member (the object first, but for static methods).
 using MemberOperation = octave_value_list (*)(Member const& member, octave_value_list const& args);
 
-// Swaps the members of `cls`, a class of the package, unless done already.
+// Swaps the members of `cls`, a class of the package, unless done already
+// (or not at all, see DECKFORGE_NATIVE_MEMBERS).
 void bindNativeMembers(octave::cdef_class const& cls, MemberOperation operation);
 
 // A new constructed object of the class with no native object yet, its

@@ -7,6 +7,7 @@
 // error too. Octave's own errors (from a listener, say) pass through as they
 // are.
 #include <dlfcn.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <map>
@@ -44,7 +45,6 @@ namespace {
 
 constexpr char const* kListenerClass = "deckforge.Listener";
 constexpr char const* kWrapMarker = "deckforge_wrap__";
-constexpr char const* kBaseMarker = "deckforge_base__";
 
 // Listener objects of each script object. Never destroyed: holding Octave
 // values past the interpreter's end must not run their destructors.
@@ -144,24 +144,55 @@ public:
     }
 };
 
-// Where this library lies: the package's directory, which is the host root
-// that the default template's path hangs from.
-std::string moduleDirectory() {
-    Dl_info info{};
-    if (!dladdr(reinterpret_cast<void*>(&moduleDirectory), &info) || !info.dli_fname) return {};
-    std::string path = info.dli_fname;
+std::string directoryOf(std::string const& path) {
     std::string::size_type slash = path.rfind('/');
     return slash == std::string::npos ? std::string(".") : path.substr(0, slash);
 }
 
+// Where this library lies.
+std::string moduleDirectory() {
+    Dl_info info{};
+    if (!dladdr(reinterpret_cast<void*>(&moduleDirectory), &info) || !info.dli_fname) return {};
+    return directoryOf(info.dli_fname);
+}
+
+bool holdsScripts(std::string const& dir) {
+    return ::access((dir + "/toolboxdir.m").c_str(), F_OK) == 0;
+}
+
+// The host root, that the default template's path hangs from, or "" while
+// it can't be told: the library's folder in a build tree. An installed
+// package keeps the library in a folder of its architecture, apart from the
+// script files and the template, which lie beside toolboxdir.m: in the
+// folder above for a user's install, elsewhere for a system-wide one. The
+// package's PKG_ADD may run before that folder joins the path.
+std::string hostRoot() {
+    std::string const module = moduleDirectory();
+    if (holdsScripts(module)) return module;
+    if (holdsScripts(directoryOf(module))) return directoryOf(module);
+    if (octave::interpreter* interp = octave::interpreter::the_interpreter()) {
+        octave_value f = interp->get_symbol_table().find_function("toolboxdir");
+        if (octave_function* fn = f.function_value(true)) {
+            std::string const file = fn->fcn_file_name();
+            if (!file.empty()) return directoryOf(file);
+        }
+    }
+    return {};
+}
+
 void installHost() {
+    static bool rootKnown = false;
+    if (!rootKnown) {
+        std::string root = hostRoot();
+        rootKnown = !root.empty();
+        host::setQuorixRoot(fl::i18n::to_string(rootKnown ? root : moduleDirectory()));
+    }
     static bool installed = false;
     if (installed) return;
     installed = true;
     static OctaveScriptHost scriptHost;
     setScriptHost(&scriptHost);
     hv::setHost(std::make_shared<OctaveHvHost>());
-    host::setQuorixRoot(fl::i18n::to_string(moduleDirectory()));
     host::setCurrentDirectoryProvider(
         [] { return fl::i18n::to_string(octave::sys::env::get_current_directory()); });
 }

@@ -26,3 +26,14 @@ function info = picmeta (file)
   endif
   info = struct ('Width', size(1), 'Height', size(2));
 endfunction
+
+%!test
+%! f = [tempname() ".png"];
+%! unwind_protect
+%!   imwrite (zeros (7, 12, "uint8"), f);
+%!   info = picmeta (f);
+%!   assert (info, struct ("Width", 12, "Height", 7));
+%! unwind_protect_cleanup
+%!   unlink (f);
+%! end_unwind_protect
+%!error <deckforge:picmeta:unreadableImage|cannot read the image> picmeta (mfilename ("fullpath"))

@@ -7,3 +7,9 @@ function dir = toolboxdir (name)
   root = fileparts (mfilename ('fullpath'));
   dir = fullfile (root, 'toolbox', name);
 endfunction
+
+%!test
+%! root = fileparts (which ("toolboxdir"));
+%! assert (toolboxdir ("shared"), fullfile (root, "toolbox", "shared"));
+%! template = fullfile (toolboxdir ("shared"), "deckforge", "ppt", "resources", "templates", "pptx", "default.pptx");
+%! assert (exist (template, "file"), 2);

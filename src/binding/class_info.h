@@ -91,6 +91,9 @@ public:
 
     void setHelp(std::string help) { mHelp = std::move(help); }
     std::string const& help() const { return mHelp; }
+    // Script lines that use the class, run as they stand; help ends with them.
+    void setExample(std::string example) { mExample = std::move(example); }
+    std::string const& example() const { return mExample; }
 
     void addSuperclass(std::string fullName) { mSuperclasses.push_back(std::move(fullName)); }
     void addConstructor(std::vector<std::string> inputs, ConstructorInvoker construct, std::string help = {});
@@ -116,6 +119,7 @@ private:
     std::string mPackage;
     std::string mName;
     std::string mHelp;
+    std::string mExample;
     std::vector<std::string> mSuperclasses;
     std::vector<MethodInfo> mConstructors;
     std::vector<MethodInfo> mMethods;

@@ -10,6 +10,9 @@ class CosBackgroundColor : public CosPPTObjectClassInfo {
 public:
     CosBackgroundColor() : CosPPTObjectClassInfo("BackgroundColor") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "c = deckforge.ppt.BackgroundColor('#FFF2CC');\n"
+            "disp(c.Value)");
         cls.setHelp(
             "The fill of a text box or a table cell.\n"
             "  box.Style = {deckforge.ppt.BackgroundColor('lightyellow')};");

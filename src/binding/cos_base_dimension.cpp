@@ -10,6 +10,9 @@ class CosBaseDimension : public CosPPTObjectClassInfo {
 public:
     CosBaseDimension() : CosPPTObjectClassInfo("BaseDimension") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "s = deckforge.ppt.FontSize('18pt');\n"
+            "disp(s.Value)");
         cls.setHelp("A format whose value is a length with its units, such as \"2.5cm\".");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

@@ -12,6 +12,11 @@ class CosBaseTextBox : public CosPPTObjectClassInfo {
 public:
     CosBaseTextBox() : CosPPTObjectClassInfo("BaseTextBox") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "box = deckforge.ppt.TextBox();\n"
+            "box.add('first');\n"
+            "box.add('second');\n"
+            "box.replace('only this');");
         cls.setHelp(
             "A shape that holds paragraphs: the base of text boxes and placeholders.\n"
             "add appends after what the box holds (for a placeholder, after the\n"

@@ -10,6 +10,13 @@ class CosBodyPlaceholder : public CosPPTObjectClassInfo {
 public:
     CosBodyPlaceholder() : CosPPTObjectClassInfo("BodyPlaceholder") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "f = [tempname() '.pptx'];\n"
+            "p = deckforge.ppt.Presentation(f);\n"
+            "s = p.add('Section Header');\n"
+            "s.replace('Text', 'A body placeholder, filled by name');\n"
+            "p.close();\n"
+            "delete(f);");
         cls.setHelp("A body placeholder of a slide's layout: it takes text, and lists given as cell arrays.");
         cls.addSuperclass("deckforge.ppt.TextBoxPlaceholder");
     }

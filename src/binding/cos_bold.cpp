@@ -10,6 +10,11 @@ class CosBold : public CosPPTObjectClassInfo {
 public:
     CosBold() : CosPPTObjectClassInfo("Bold") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "b = deckforge.ppt.Bold(false);\n"
+            "b.Value = true;\n"
+            "t = deckforge.ppt.Text('bold');\n"
+            "t.Bold = b.Value;");
         cls.setHelp("Bold characters; Bold(false) switches off a bold set higher up.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

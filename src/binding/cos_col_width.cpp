@@ -10,6 +10,9 @@ class CosColWidth : public CosPPTObjectClassInfo {
 public:
     CosColWidth() : CosPPTObjectClassInfo("ColWidth") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "w = deckforge.ppt.ColWidth('3cm');\n"
+            "disp(w.Value)");
         cls.setHelp("The width of a table column; the widest of a column's entries wins.");
         cls.addSuperclass("deckforge.ppt.BaseDimension");
         cls.addConstructor(

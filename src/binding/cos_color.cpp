@@ -11,6 +11,9 @@ public:
     CosColor() : CosPPTObjectClassInfo("Color") {}
     bool isAbstract() const override { return true; }
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "c = deckforge.ppt.FontColor('#1F77B4');\n"
+            "disp(c.Value)");
         cls.setHelp("A colour: a name such as \"red\" or \"#\" and six hex digits.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addProperty("Value", "text", formatGetter(&Color::getValue), formatTextSetter(&Color::setValue),

@@ -11,6 +11,15 @@ class CosContentPlaceholder : public CosPPTObjectClassInfo {
 public:
     CosContentPlaceholder() : CosPPTObjectClassInfo("ContentPlaceholder") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "f = [tempname() '.pptx'];\n"
+            "p = deckforge.ppt.Presentation(f);\n"
+            "s = p.add('Title and Content');\n"
+            "c = s.find('Content'){1};\n"
+            "c.add('first point');\n"
+            "c.add('second point');\n"
+            "p.close();\n"
+            "delete(f);");
         cls.setHelp(
             "A placeholder of a slide's layout for any content: text, lists, a picture or a table.\n"
             "  s = p.add('Title and Content');\n"

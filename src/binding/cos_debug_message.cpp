@@ -10,6 +10,10 @@ class CosDebugMessage : public CosPPTObjectClassInfo {
 public:
     CosDebugMessage() : CosPPTObjectClassInfo("DebugMessage") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "d = deckforge.ppt.MessageDispatcher.getTheDispatcher();\n"
+            "m = deckforge.ppt.DebugMessage('step 1', d);\n"
+            "disp(m.Text)");
         cls.setHelp("A debug message: off unless the filter lets debug messages pass.");
         cls.addSuperclass("deckforge.ppt.Message");
         cls.addConstructor(

@@ -8,6 +8,11 @@ class CosElement : public CosPPTObjectClassInfo {
 public:
     CosElement() : CosPPTObjectClassInfo("Element") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "t = deckforge.ppt.Text('an element');\n"
+            "t.Bold = true;\n"
+            "t.FontSize = '18pt';\n"
+            "isa(t, 'deckforge.ppt.Element')");
         cls.setHelp("A node that carries formats.");
         cls.addSuperclass("deckforge.ppt.Node");
     }

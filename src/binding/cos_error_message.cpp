@@ -10,6 +10,10 @@ class CosErrorMessage : public CosPPTObjectClassInfo {
 public:
     CosErrorMessage() : CosPPTObjectClassInfo("ErrorMessage") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "d = deckforge.ppt.MessageDispatcher.getTheDispatcher();\n"
+            "m = deckforge.ppt.ErrorMessage('no such layout', d);\n"
+            "disp(class(m))");
         cls.setHelp("An error message.");
         cls.addSuperclass("deckforge.ppt.Message");
         cls.addConstructor(

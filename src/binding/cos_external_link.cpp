@@ -10,6 +10,9 @@ class CosExternalLink : public CosPPTObjectClassInfo {
 public:
     CosExternalLink() : CosPPTObjectClassInfo("ExternalLink") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "para = deckforge.ppt.Paragraph('The standard: ');\n"
+            "para.append(deckforge.ppt.ExternalLink('https://ecma-international.org', 'ECMA-376'));");
         cls.setHelp(
             "A run of text that is a hyperlink.\n"
             "  p.append(deckforge.ppt.ExternalLink('https://example.com', 'our site'));");

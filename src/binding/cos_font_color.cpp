@@ -10,6 +10,11 @@ class CosFontColor : public CosPPTObjectClassInfo {
 public:
     CosFontColor() : CosPPTObjectClassInfo("FontColor") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "c = deckforge.ppt.FontColor('  Red ');\n"
+            "disp(c.Value)\n"
+            "t = deckforge.ppt.Text('red text');\n"
+            "t.FontColor = c.Value;");
         cls.setHelp("The colour of the characters.");
         cls.addSuperclass("deckforge.ppt.Color");
         cls.addConstructor(

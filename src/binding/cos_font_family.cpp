@@ -10,6 +10,11 @@ class CosFontFamily : public CosPPTObjectClassInfo {
 public:
     CosFontFamily() : CosPPTObjectClassInfo("FontFamily") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "f = deckforge.ppt.FontFamily('Arial', 'Mangal');\n"
+            "t = deckforge.ppt.Text('sans');\n"
+            "t.Font = f.Font;\n"
+            "t.ComplexScriptFont = f.ComplexScriptFont;");
         cls.setHelp(
             "The Latin font and the complex-script font of the characters; an empty name writes nothing.");
         cls.addSuperclass("deckforge.ppt.Format");

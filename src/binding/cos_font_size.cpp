@@ -10,6 +10,10 @@ class CosFontSize : public CosPPTObjectClassInfo {
 public:
     CosFontSize() : CosPPTObjectClassInfo("FontSize") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "s = deckforge.ppt.FontSize('28pt');\n"
+            "t = deckforge.ppt.Text('large');\n"
+            "t.FontSize = s.Value;");
         cls.setHelp("The size of the characters, from 1pt to 4000pt.");
         cls.addSuperclass("deckforge.ppt.BaseDimension");
         cls.addConstructor(

@@ -10,6 +10,9 @@ public:
     CosFormat() : CosPPTObjectClassInfo("Format") {}
     bool isAbstract() const override { return true; }
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "b = deckforge.ppt.Bold();\n"
+            "isa(b, 'deckforge.ppt.Format')");
         cls.setHelp("A styling object that a node holds in its Style; at most one of each kind per node.");
         cls.addSuperclass("deckforge.ppt.Object");
     }

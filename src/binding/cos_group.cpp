@@ -10,6 +10,9 @@ class CosGroup : public CosPPTObjectClassInfo {
 public:
     CosGroup() : CosPPTObjectClassInfo("Group") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "g = deckforge.ppt.Group();\n"
+            "isa(g, 'deckforge.ppt.Shape')");
         cls.setHelp(
             "A group of shapes that a template brought. Its members can be found by name;\n"
             "the group itself takes no content.");

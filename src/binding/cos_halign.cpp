@@ -10,6 +10,10 @@ class CosHAlign : public CosPPTObjectClassInfo {
 public:
     CosHAlign() : CosPPTObjectClassInfo("HAlign") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "a = deckforge.ppt.HAlign('right');\n"
+            "para = deckforge.ppt.Paragraph('to the right');\n"
+            "para.HAlign = a.Value;");
         cls.setHelp(
             "The alignment of a paragraph: left, right, center, justified, justifiedLow, distributed or "
             "thaiDistributed.");

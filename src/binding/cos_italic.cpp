@@ -10,6 +10,10 @@ class CosItalic : public CosPPTObjectClassInfo {
 public:
     CosItalic() : CosPPTObjectClassInfo("Italic") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "i = deckforge.ppt.Italic(true);\n"
+            "t = deckforge.ppt.Text('slanted');\n"
+            "t.Italic = i.Value;");
         cls.setHelp("Italic characters.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

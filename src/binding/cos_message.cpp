@@ -11,6 +11,10 @@ class CosMessage : public CosPPTObjectClassInfo {
 public:
     CosMessage() : CosPPTObjectClassInfo("Message") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "d = deckforge.ppt.MessageDispatcher.getTheDispatcher();\n"
+            "m = deckforge.ppt.WarningMessage('careful', d);\n"
+            "disp(m.Text)");
         cls.setHelp("A message of the library: a text and the object it is about, if any.");
         cls.addSuperclass("deckforge.ppt.Object");
         cls.addProperty("Text", "text", getter(&Message::getText), nullptr, "The message text.");

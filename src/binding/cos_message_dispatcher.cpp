@@ -10,6 +10,11 @@ class CosMessageDispatcher : public CosPPTObjectClassInfo {
 public:
     CosMessageDispatcher() : CosPPTObjectClassInfo("MessageDispatcher") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "d = deckforge.ppt.MessageDispatcher.getTheDispatcher();\n"
+            "l = addlistener(d, 'Message', @(src, evt) disp(evt.Message.Text));\n"
+            "d.dispatch(deckforge.ppt.ProgressMessage('hello', d));\n"
+            "delete(l);");
         cls.setHelp(
             "The one sink of the library's messages. Listen to its \"Message\" event with\n"
             "addlistener(d, 'Message', @(src, evt) disp(evt.Message.Text)); its Filter decides\n"

@@ -10,6 +10,10 @@ class CosMessageEventData : public CosPPTObjectClassInfo {
 public:
     CosMessageEventData() : CosPPTObjectClassInfo("MessageEventData") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "d = deckforge.ppt.MessageDispatcher.getTheDispatcher();\n"
+            "e = deckforge.ppt.MessageEventData(deckforge.ppt.ProgressMessage('done', d));\n"
+            "disp(e.Message.Text)");
         cls.setHelp("The data of a \"Message\" event of the dispatcher.");
         cls.addSuperclass("deckforge.ppt.Object");
         cls.addConstructor(

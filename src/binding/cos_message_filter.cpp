@@ -11,6 +11,11 @@ class CosMessageFilter : public CosPPTObjectClassInfo {
 public:
     CosMessageFilter() : CosPPTObjectClassInfo("MessageFilter") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "f = deckforge.ppt.MessageFilter();\n"
+            "f.DebugMessagesPass = true;\n"
+            "f.WarningMessagesPass = false;\n"
+            "disp(f.ErrorMessagesPass)");
         cls.setHelp(
             "Decides which messages reach listeners. A set SourceFilter stops messages about\n"
             "other objects; a set GlobalFilter then decides alone ('pass' lets all through,\n"

@@ -10,6 +10,11 @@ class CosNode : public CosPPTObjectClassInfo {
 public:
     CosNode() : CosPPTObjectClassInfo("Node") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "para = deckforge.ppt.Paragraph('Hello ');\n"
+            "para.append(deckforge.ppt.Text('world'));\n"
+            "kids = para.Children;\n"
+            "isa(kids{1}, 'deckforge.ppt.Node')");
         cls.setHelp("A node of a presentation's tree.");
         cls.addSuperclass("deckforge.ppt.Object");
         cls.addProperty("Children", "array of deckforge.ppt.Node", getter(&PPTNode::getChildren), nullptr,

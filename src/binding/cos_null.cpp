@@ -11,6 +11,11 @@ public:
     CosNull() : CosPPTObjectClassInfo("Null") {}
     bool isAbstract() const override { return true; }
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "a = deckforge.ppt.Paragraph('one');\n"
+            "b = a;              % a copy is the same object\n"
+            "b.Bold = true;\n"
+            "assert(a.Bold && a == b);");
         cls.setHelp(
             "Root of the deckforge.ppt classes. Its objects are handles: copies refer to one object.");
         cls.addSuperclass("attrbase");

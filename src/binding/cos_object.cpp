@@ -9,6 +9,9 @@ class CosObject : public CosPPTObjectClassInfo {
 public:
     CosObject() : CosPPTObjectClassInfo("Object") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "t = deckforge.ppt.Text('hello');\n"
+            "isa(t, 'deckforge.ppt.Object')");
         cls.setHelp(
             "Base of every object of the library: an Id unique in the session and a Tag for messages.");
         cls.addSuperclass("deckforge.ppt.Null");

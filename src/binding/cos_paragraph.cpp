@@ -43,6 +43,10 @@ class CosParagraph : public CosPPTObjectClassInfo {
 public:
     CosParagraph() : CosPPTObjectClassInfo("Paragraph") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "para = deckforge.ppt.Paragraph('Hello ');\n"
+            "para.append(deckforge.ppt.Text('world'));\n"
+            "para.HAlign = 'center';");
         cls.setHelp(
             "A paragraph: runs of text and links, with an outline level.\n"
             "  p = deckforge.ppt.Paragraph('Read more at ');\n"

@@ -25,6 +25,13 @@ class CosPicture : public CosPPTObjectClassInfo {
 public:
     CosPicture() : CosPPTObjectClassInfo("Picture") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "f = [tempname() '.png'];\n"
+            "imwrite(uint8(255 * rand(30, 40, 3)), f);\n"
+            "pic = deckforge.ppt.Picture(f);\n"
+            "pic.Width = '2in';\n"
+            "pic.Height = '1.5in';\n"
+            "delete(f);");
         cls.setHelp(
             "A picture from an image file (PNG, JPEG, GIF, BMP, TIFF, SVG, EMF), an\n"
             "image array, or an Octave figure, printed as SVG (hidden figures too, no display needed).\n"

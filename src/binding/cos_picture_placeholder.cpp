@@ -25,6 +25,17 @@ class CosPicturePlaceholder : public CosPPTObjectClassInfo {
 public:
     CosPicturePlaceholder() : CosPPTObjectClassInfo("PicturePlaceholder") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "img = [tempname() '.png'];\n"
+            "imwrite(uint8(255 * rand(30, 40, 3)), img);\n"
+            "f = [tempname() '.pptx'];\n"
+            "p = deckforge.ppt.Presentation(f);\n"
+            "s = p.add('Title and Picture');\n"
+            "ph = s.find('Picture'){1};\n"
+            "ph.replace(deckforge.ppt.Picture(img));\n"
+            "p.close();\n"
+            "delete(f);\n"
+            "delete(img);");
         cls.setHelp(
             "A placeholder of a slide's layout for a picture; until one takes its place it takes text.");
         cls.addSuperclass("deckforge.ppt.BodyPlaceholder");

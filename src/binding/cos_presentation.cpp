@@ -91,6 +91,14 @@ class CosPresentation : public CosPPTObjectClassInfo {
 public:
     CosPresentation() : CosPPTObjectClassInfo("Presentation") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "f = [tempname() '.pptx'];\n"
+            "p = deckforge.ppt.Presentation(f);\n"
+            "s = p.add('Title Slide');\n"
+            "s.replace('Title', 'Quarterly report');\n"
+            "s.replace('Subtitle', 'made with deckforge');\n"
+            "p.close();\n"
+            "delete(f);");
         cls.setHelp(
             "A presentation built on a template and written to OutputPath by close. "
             "  p = deckforge.ppt.Presentation('out.pptx');   % default template "
@@ -221,7 +229,8 @@ public:
         cls.addMethod(
             "getTableStyleNames", words::Any, {},
             [](Call& c) {
-                auto const& styles = c.self<Presentation>().getTableStyleNames();
+                Presentation presentation = c.self<Presentation>();
+                auto const& styles = presentation.getTableStyleNames();
                 std::vector<Value> cells(styles.size() * 2);
                 for (std::size_t i = 0; i < styles.size(); ++i) {
                     cells[i] = Value::text(styles[i].first);

@@ -10,6 +10,11 @@ class CosProgressMessage : public CosPPTObjectClassInfo {
 public:
     CosProgressMessage() : CosPPTObjectClassInfo("ProgressMessage") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "d = deckforge.ppt.MessageDispatcher.getTheDispatcher();\n"
+            "l = addlistener(d, 'Message', @(src, evt) disp(evt.Message.Text));\n"
+            "d.dispatch(deckforge.ppt.ProgressMessage('halfway', d));\n"
+            "delete(l);");
         cls.setHelp("A progress message: what the library is doing.");
         cls.addSuperclass("deckforge.ppt.Message");
         cls.addConstructor(

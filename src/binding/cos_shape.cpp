@@ -10,6 +10,12 @@ class CosShape : public CosPPTObjectClassInfo {
 public:
     CosShape() : CosPPTObjectClassInfo("Shape") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "box = deckforge.ppt.TextBox();\n"
+            "box.X = '1in';\n"
+            "box.Y = '2in';\n"
+            "box.Width = '12cm';\n"
+            "box.Height = '1in';");
         cls.setHelp(
             "Something on a slide with a position and a size. Lengths are text with units\n"
             "(px, in, mm, cm, pt, ...); [] leaves a value to the template.\n"

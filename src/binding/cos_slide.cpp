@@ -65,6 +65,14 @@ class CosSlide : public CosPPTObjectClassInfo {
 public:
     CosSlide() : CosPPTObjectClassInfo("Slide") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "f = [tempname() '.pptx'];\n"
+            "p = deckforge.ppt.Presentation(f);\n"
+            "s = p.add('Title and Content');\n"
+            "s.replace('Title', 'Regions');\n"
+            "s.replace('Content', struct('Region', {'North', 'South'}, 'Q1', {1200, 950.5}));\n"
+            "p.close();\n"
+            "delete(f);");
         cls.setHelp("A slide of a presentation, made by the presentation's add or duplicate.");
         cls.addSuperclass("deckforge.ppt.Element");
         cls.addProperty("Layout", "text", getter(&Slide::getLayoutName), nullptr, "The slide's layout.");

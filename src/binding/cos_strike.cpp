@@ -10,6 +10,10 @@ class CosStrike : public CosPPTObjectClassInfo {
 public:
     CosStrike() : CosPPTObjectClassInfo("Strike") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "s = deckforge.ppt.Strike('single');\n"
+            "t = deckforge.ppt.Text('struck');\n"
+            "t.Strike = s.Style;");
         cls.setHelp("Struck-through characters: none, single or double.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

@@ -10,6 +10,11 @@ class CosSubscript : public CosPPTObjectClassInfo {
 public:
     CosSubscript() : CosPPTObjectClassInfo("Subscript") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "para = deckforge.ppt.Paragraph('H');\n"
+            "sub = para.append('2');\n"
+            "sub.Subscript = deckforge.ppt.Subscript().Value;\n"
+            "para.append('O');");
         cls.setHelp("Characters lowered below the baseline.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

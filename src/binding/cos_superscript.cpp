@@ -10,6 +10,10 @@ class CosSuperscript : public CosPPTObjectClassInfo {
 public:
     CosSuperscript() : CosPPTObjectClassInfo("Superscript") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "para = deckforge.ppt.Paragraph('x');\n"
+            "sup = para.append('2');\n"
+            "sup.Superscript = deckforge.ppt.Superscript().Value;");
         cls.setHelp("Characters raised above the baseline; it wins over a Subscript on the same run.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

@@ -22,7 +22,8 @@ Table tableFromValue(Value const& value) {
 }
 
 Value getColSpecs(PPTObject const& self) {
-    auto const& specs = Table(self.getImpl()).getColSpecs();
+    Table const table(self.getImpl());
+    auto const& specs = table.getColSpecs();
     return toScript(PPTNodeList(specs.begin(), specs.end()));
 }
 
@@ -77,6 +78,9 @@ class CosTable : public CosPPTObjectClassInfo {
 public:
     CosTable() : CosPPTObjectClassInfo("Table") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "t = deckforge.ppt.Table(struct('Region', {'North', 'South'}, 'Q1', {1200, 950.5}));\n"
+            "t.StyleName = 'Light Lines';");
         cls.setHelp(
             "A table: rows of entries, each entry holding paragraphs.\n"
             "Build it row by row, or in one step from a value:\n"

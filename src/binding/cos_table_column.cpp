@@ -11,6 +11,9 @@ class CosColSpec : public CosPPTObjectClassInfo {
 public:
     CosColSpec() : CosPPTObjectClassInfo("ColSpec") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "t = deckforge.ppt.Table({'name', 'value'; 'a', 1});\n"
+            "t.ColSpecs = {deckforge.ppt.ColSpec('2in'), deckforge.ppt.ColSpec('1in')};");
         cls.setHelp(
             "The width and formats of one table column; its entries take the formats\n"
             "they and their row don't set themselves.\n"

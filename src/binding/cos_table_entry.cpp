@@ -19,6 +19,11 @@ class CosTableEntry : public CosPPTObjectClassInfo {
 public:
     CosTableEntry() : CosPPTObjectClassInfo("TableEntry") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "e = deckforge.ppt.TableEntry('42');\n"
+            "e.HAlign = 'right';\n"
+            "r = deckforge.ppt.TableRow();\n"
+            "r.append(e);");
         cls.setHelp(
             "One cell of a table row, holding paragraphs.\n"
             "  e = deckforge.ppt.TableEntry('Total'); e.BackgroundColor = 'yellow'; row.append(e);");

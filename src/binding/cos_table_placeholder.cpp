@@ -11,6 +11,14 @@ class CosTablePlaceholder : public CosPPTObjectClassInfo {
 public:
     CosTablePlaceholder() : CosPPTObjectClassInfo("TablePlaceholder") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "f = [tempname() '.pptx'];\n"
+            "p = deckforge.ppt.Presentation(f);\n"
+            "s = p.add('Title and Table');\n"
+            "ph = s.find('Table'){1};\n"
+            "ph.replace(deckforge.ppt.Table({'fruit', 'boxes'; 'apples', 120}));\n"
+            "p.close();\n"
+            "delete(f);");
         cls.setHelp(
             "A placeholder of a slide's layout for a table; until one takes its place it takes text.\n"
             "  s = p.add('Title and Table');\n"

@@ -11,6 +11,12 @@ class CosTableRow : public CosPPTObjectClassInfo {
 public:
     CosTableRow() : CosPPTObjectClassInfo("TableRow") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "r = deckforge.ppt.TableRow();\n"
+            "r.append(deckforge.ppt.TableEntry('apples'));\n"
+            "r.append(deckforge.ppt.TableEntry('120'));\n"
+            "t = deckforge.ppt.Table(2);\n"
+            "t.append(r);");
         cls.setHelp(
             "A row of a table: its entries in column order. All rows of a table share its Height.\n"
             "  r = deckforge.ppt.TableRow(); r.append(deckforge.ppt.TableEntry('a')); t.append(r);");

@@ -10,6 +10,11 @@ class CosTableStyleOptions : public CosPPTObjectClassInfo {
 public:
     CosTableStyleOptions() : CosPPTObjectClassInfo("TableStyleOptions") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "o = deckforge.ppt.TableStyleOptions();\n"
+            "o.BandedRows = false;\n"
+            "o.FirstColumn = true;\n"
+            "disp(o.FirstRow)");
         cls.setHelp("The switches of a table's style; first row and banded rows are on at first.");
         cls.addSuperclass("deckforge.ppt.Format");
         cls.addConstructor(

@@ -34,6 +34,12 @@ class CosText : public CosPPTObjectClassInfo {
 public:
     CosText() : CosPPTObjectClassInfo("Text") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "t = deckforge.ppt.Text('important');\n"
+            "t.Bold = true;\n"
+            "t.FontColor = 'red';\n"
+            "para = deckforge.ppt.Paragraph();\n"
+            "para.append(t);");
         cls.setHelp(
             "A run of text, or of a number shown in its printed form, in a paragraph.\n"
             "  t = deckforge.ppt.Text('Sales'); n = deckforge.ppt.Text(42.5);");

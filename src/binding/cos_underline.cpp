@@ -10,6 +10,10 @@ class CosUnderline : public CosPPTObjectClassInfo {
 public:
     CosUnderline() : CosPPTObjectClassInfo("Underline") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "u = deckforge.ppt.Underline('double');\n"
+            "t = deckforge.ppt.Text('underlined');\n"
+            "t.Underline = u.Style;");
         cls.setHelp(
             "Underlined characters: none, words, single, double, heavy, dotted, dash, wavy and their "
             "variants.");

@@ -10,6 +10,11 @@ class CosVAlign : public CosPPTObjectClassInfo {
 public:
     CosVAlign() : CosPPTObjectClassInfo("VAlign") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "a = deckforge.ppt.VAlign('middle');\n"
+            "box = deckforge.ppt.TextBox();\n"
+            "box.VAlign = a.Value;\n"
+            "box.add('in the middle');");
         cls.setHelp(
             "The anchor of the text in a box or a cell: top, middle, bottom, or one of them \"Centered\".");
         cls.addSuperclass("deckforge.ppt.Format");

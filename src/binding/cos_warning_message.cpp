@@ -10,6 +10,10 @@ class CosWarningMessage : public CosPPTObjectClassInfo {
 public:
     CosWarningMessage() : CosPPTObjectClassInfo("WarningMessage") {}
     void initializeClass(ClassDescription& cls) const override {
+        cls.setExample(
+            "d = deckforge.ppt.MessageDispatcher.getTheDispatcher();\n"
+            "m = deckforge.ppt.WarningMessage('the title is long', d);\n"
+            "d.dispatch(m);");
         cls.setHelp("A warning message.");
         cls.addSuperclass("deckforge.ppt.Message");
         cls.addConstructor(

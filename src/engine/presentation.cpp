@@ -240,7 +240,7 @@ bool PresentationImpl::open() {
     if (templateExtension.empty()) raise<ppt_error::invalidFileExtension>(templatePath);
 
     u16string const outputPath = withDefaultExtension(outputName, getOutputExtension(templateExtension));
-    u16string const& outputType = getContentTypeOfExtension(FileUtils::getFileNameExtension(outputPath));
+    u16string const outputType = getContentTypeOfExtension(FileUtils::getFileNameExtension(outputPath));
     if (outputType.empty() || getExtensionOfContentType(outputType).empty())
         raise<ppt_error::invalidFileExtension>(outputPath);
 

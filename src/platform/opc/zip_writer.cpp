@@ -298,6 +298,17 @@ void copyEntry(zip* source, zip_uint64_t index, zip_stat_t const& st, ZipWriter&
     else if (st.valid & ZIP_STAT_MTIME)
         entry.time = toDosTime(st.mtime);
     entry.attributes = attributesOf(source, index);
+    if (st.size == 0) {
+        // An empty entry may be stored deflated as an empty deflate stream
+        // (2 bytes); some libzip releases hand back none of those bytes.
+        // Stored plainly it holds the same nothing.
+        entry.method = ZIP_CM_STORE;
+        entry.crc = 0;
+        entry.compressedSize = 0;
+        writer.beginCopy(entry);
+        writer.endCopy();
+        return;
+    }
     writer.beginCopy(entry);
     for (;;) {
         zip_int64_t n = zip_fread(file.get(), buffer.data(), buffer.size());

@@ -105,16 +105,24 @@ TEST(ZipWriter, UpdateCopiesUntouchedEntriesAsTheyAreStored) {
     ScratchDir dir;
     auto path = dir / "old.zip";
     std::string const big(50000, 'x');
-    makeZip(path, {{"[Content_Types].xml", "<Types/>"}, {"ppt/", ""}, {"a.xml", big}, {"b.xml", "old b"}},
+    makeZip(path,
+            {{"[Content_Types].xml", "<Types/>"},
+             {"ppt/", ""},
+             {"a.xml", big},
+             {"b.xml", "old b"},
+             {"e.sigs", ""}},
             true);
     {  // b.xml private: its replacement keeps that
         int error = 0;
         zip_t* archive = zip_open(path.c_str(), 0, &error);
         zip_file_set_external_attributes(archive, 3, 0, ZIP_OPSYS_UNIX, 0100600u << 16);
+        // e.sigs empty but deflated: an empty deflate stream of 2 bytes
+        zip_set_file_compression(archive, 4, ZIP_CM_DEFLATE, 0);
         ASSERT_EQ(zip_close(archive), 0);
     }
     auto const before = path.string() + ".before";
     std::filesystem::copy_file(path, before);
+    ASSERT_EQ(stored(before, "e.sigs").bytes.size(), 2u);
     std::filesystem::permissions(path, std::filesystem::perms(0640));
     {
         zippackage::ZipPhysicalPackage zip(path.u16string(), true);
@@ -124,7 +132,8 @@ TEST(ZipWriter, UpdateCopiesUntouchedEntriesAsTheyAreStored) {
     }
     EXPECT_TRUE(unzipAccepts(path));
     EXPECT_EQ(run("unzip -Z1 '" + path.string() + "'").first,
-              "[Content_Types].xml\nppt/\na.xml\nb.xml\nc.xml\n");
+              "[Content_Types].xml\nppt/\na.xml\nb.xml\ne.sigs\nc.xml\n");
+    EXPECT_EQ(readItem(path, "e.sigs"), "");
     EXPECT_EQ(stored(path, "a.xml"), stored(before, "a.xml"));
     EXPECT_EQ(stored(path, "[Content_Types].xml"), stored(before, "[Content_Types].xml"));
     EXPECT_EQ(stored(path, "a.xml").method, ZIP_CM_STORE);

@@ -40,9 +40,16 @@ std::filesystem::path compatibilityChecker() {
 }
 
 std::string checkCompatibility(std::filesystem::path const& deck, std::filesystem::path const& templateFile) {
+    return checkCompatibility({{deck, templateFile}});
+}
+
+std::string checkCompatibility(std::vector<std::pair<std::filesystem::path, std::filesystem::path>> const& decks) {
     std::string command = "python3 '" + compatibilityChecker().string() + "'";
-    if (!templateFile.empty()) command += " --template '" + templateFile.string() + "'";
-    command += " '" + deck.string() + "' 2>&1";
+    for (auto const& [deck, templateFile] : decks) {
+        if (!templateFile.empty()) command += " --template '" + templateFile.string() + "'";
+        command += " '" + deck.string() + "'";
+    }
+    command += " 2>&1";
     std::string report;
     FILE* pipe = ::popen(command.c_str(), "r");
     if (!pipe) return report;

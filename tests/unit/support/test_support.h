@@ -3,6 +3,8 @@
 
 #include <filesystem>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace deckforge { namespace test {
 
@@ -31,6 +33,8 @@ std::filesystem::path compatibilityChecker();  // tests/tools/check-pptx
 // problems counts.
 std::string checkCompatibility(std::filesystem::path const& deck,
                                std::filesystem::path const& templateFile = {});
+// The same for several decks, each with its template (or none), in one run.
+std::string checkCompatibility(std::vector<std::pair<std::filesystem::path, std::filesystem::path>> const& decks);
 
 // Whether LibreOffice and poppler's tools are there for a round trip through
 // a real reader. The sanitizer run sets DECKFORGE_NO_OFFICE: those round trips

@@ -12,3 +12,7 @@ function ppi = getScreenPixelsPerInch ()
   catch
   end_try_catch
 endfunction
+
+%!test
+%! ppi = brieflet.utils.getScreenPixelsPerInch ();
+%! assert (isscalar (ppi) && isa (ppi, "double") && ppi > 0);
