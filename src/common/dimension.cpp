@@ -190,7 +190,7 @@ std::int32_t Dimension::getEMUNumber() const {
 }
 
 u16string Dimension::getEMUValue() const {
-    return num2str(static_cast<int>(getEMUNumber()));
+    return plainInteger(static_cast<int>(getEMUNumber()));
 }
 
 double Dimension::getPointNumber() const {
@@ -213,17 +213,17 @@ u16string Dimension::getDXAValue() const {
 }
 
 u16string Dimension::getHalfPointValue() const {
-    return num2str(
+    return plainInteger(
         static_cast<int>(truncateToInt32((factor(kEmuFactors, mUnits) * mNumber) * kHalfPointsPerEmu)));
 }
 
 u16string Dimension::getEighthsPointValue() const {
-    return num2str(
+    return plainInteger(
         static_cast<int>(truncateToInt32((factor(kEmuFactors, mUnits) * mNumber) * kEighthPointsPerEmu)));
 }
 
 u16string Dimension::getTwipsValue() const {
-    return num2str(static_cast<int>(truncateToInt32(factor(kTwipsFactors, mUnits) * mNumber)));
+    return plainInteger(static_cast<int>(truncateToInt32(factor(kTwipsFactors, mUnits) * mNumber)));
 }
 
 u16string Dimension::getPixelValue() const {

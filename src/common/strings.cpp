@@ -107,6 +107,12 @@ u16string num2str(unsigned long value) {
     return integerText(value);
 }
 
+u16string plainInteger(long long value) {
+    char digits[24];
+    char const* end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+    return u16string(static_cast<char const*>(digits), end);
+}
+
 u16string num2str(double value) {
     if (std::isnan(value)) return std::signbit(value) ? u"-nan" : u"nan";
     if (std::isinf(value)) return value < 0 ? u"-inf" : u"inf";

@@ -25,6 +25,9 @@ u16string num2str(unsigned int value);
 u16string num2str(int value);
 u16string num2str(unsigned long value);
 u16string num2str(double value);
+// Integers as markup, part names and lengths that are read back need them:
+// ASCII digits without grouping whatever the locale, as xsd:int is written.
+u16string plainInteger(long long value);
 
 long str2long(u16string const& text);
 int str2int(u16string const& text);

@@ -84,7 +84,7 @@ public:
     // The node as an element, or null; the writers ask it of every parent
     // when they look for inherited formats, where a dynamic_cast costs more.
     virtual ElementImpl const* asElement() const { return nullptr; }
-    virtual void setName(u16string const& name) { mName = name; }
+    virtual void setName(u16string const& name) { setNameText(name); }
 
     // These three refuse a child that has a parent (failedToAppendChild).
     virtual void appendChild(PPTNodePtr child);
@@ -108,7 +108,7 @@ public:
 
     PPTNodeImpl* getParent() const { return mParent; }
     PPTNodeList const& getChildren() const { return mChildren; }
-    u16string const& getName() const { return mName; }
+    u16string const& getName() const { return nameText(); }
 
 protected:
     void setParentOf(PPTNodePtr const& child);
@@ -118,7 +118,6 @@ private:
 
     PPTNodeImpl* mParent = nullptr;
     PPTNodeList mChildren;
-    u16string mName;
 };
 
 class PPTNode : public PPTObject {

@@ -11,8 +11,8 @@ namespace {
 // Process-wide and never reset; the host calls on one thread only.
 std::uint64_t gIdCounter = 0;
 
-u16string nextId() {
-    return num2str(static_cast<unsigned long>(++gIdCounter));
+std::uint64_t nextSerial() {
+    return ++gIdCounter;
 }
 
 // Asked by every reporting constructor and destructor, so it reads the live
@@ -25,16 +25,44 @@ bool debugMessagesPass() {
 
 PPTClientImpl::~PPTClientImpl() = default;
 
-PPTObjectImpl::PPTObjectImpl() : mId(nextId()) {}
+PPTObjectImpl::PPTObjectImpl() : mSerial(nextSerial()) {}
 
-PPTObjectImpl::PPTObjectImpl(PPTObjectImpl const& other) : Wrappable(other), mId(nextId()) {
-    if (other.mClient) setPPTClientImpl(other.mClient->clone());
+PPTObjectImpl::PPTObjectImpl(PPTObjectImpl const& other) : Wrappable(other), mSerial(nextSerial()) {
+    if (other.mRare && other.mRare->client) setPPTClientImpl(other.mRare->client->clone());
 }
 
 PPTObjectImpl::~PPTObjectImpl() {
-    mProxy.reset();
-    mClient.reset();
+    if (mRare) {
+        mRare->proxy.reset();
+        mRare->client.reset();
+    }
     hobj::factory::basic::BindingRegistry::retract(this);
+}
+
+PPTObjectImpl::Rare& PPTObjectImpl::rare() {
+    if (!mRare) mRare = std::make_unique<Rare>();
+    return *mRare;
+}
+
+u16string PPTObjectImpl::getId() const {
+    if (mRare && mRare->idSet) return mRare->id;
+    return num2str(static_cast<unsigned long>(mSerial));
+}
+
+void PPTObjectImpl::setId(u16string const& id) {
+    Rare& fields = rare();
+    fields.id = id;
+    fields.idSet = true;
+}
+
+boost::shared_ptr<PPTObject> const& PPTObjectImpl::getProxy() const {
+    static boost::shared_ptr<PPTObject> const none;
+    return mRare ? mRare->proxy : none;
+}
+
+u16string const& PPTObjectImpl::nameText() const {
+    static u16string const none;
+    return mRare ? mRare->name : none;
 }
 
 char const* PPTObjectImpl::getFullyQualifiedHobjTypeName() const {
@@ -42,20 +70,20 @@ char const* PPTObjectImpl::getFullyQualifiedHobjTypeName() const {
 }
 
 u16string PPTObjectImpl::getTag() const {
-    if (!mTag.empty()) return mTag;
+    if (mRare && !mRare->tag.empty()) return mRare->tag;
     std::string name = getFullyQualifiedHobjTypeName();
     auto dot = name.find('.');
     if (dot != std::string::npos) name.erase(0, dot + 1);
-    return toString(name) + u":" + mId;
+    return toString(name) + u":" + getId();
 }
 
 void PPTObjectImpl::setPPTClientImpl(boost::shared_ptr<PPTClientImpl> client) {
     client->setOwner(this);
-    mClient = std::move(client);
+    rare().client = std::move(client);
 }
 
 void PPTObjectImpl::setProxy(boost::shared_ptr<PPTObject> proxy) {
-    mProxy = std::move(proxy);
+    rare().proxy = std::move(proxy);
 }
 
 void PPTObjectImpl::reportCreated() const {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 #include <boost/intrusive_ptr.hpp>
 #include <boost/shared_ptr.hpp>
@@ -45,21 +46,26 @@ public:
 
     virtual char const* getFullyQualifiedHobjTypeName() const;
 
-    u16string const& getId() const { return mId; }
-    void setId(u16string const& id) { mId = id; }
+    // The Id is the object's serial number in decimal until one is set.
+    u16string getId() const;
+    void setId(u16string const& id);
     // The Tag, or while it is empty "<type name after its first dot>:<Id>".
     u16string getTag() const;
-    void setTag(u16string const& tag) { mTag = tag; }
+    void setTag(u16string const& tag) {
+        if (mRare || !tag.empty()) rare().tag = tag;
+    }
 
-    boost::shared_ptr<PPTClientImpl> getPPTClientImpl() const { return mClient; }
+    boost::shared_ptr<PPTClientImpl> getPPTClientImpl() const {
+        return mRare ? mRare->client : boost::shared_ptr<PPTClientImpl>();
+    }
     void setPPTClientImpl(boost::shared_ptr<PPTClientImpl> client);
 
     // The binding's plain handle over this object and the host's object;
     // the core only keeps them.
-    boost::shared_ptr<PPTObject> const& getProxy() const { return mProxy; }
+    boost::shared_ptr<PPTObject> const& getProxy() const;
     void setProxy(boost::shared_ptr<PPTObject> proxy);
-    void* getHostObject() const { return mHostObject; }
-    void setHostObject(void* hostObject) { mHostObject = hostObject; }
+    void* getHostObject() const { return mRare ? mRare->hostObject : nullptr; }
+    void setHostObject(void* hostObject) { rare().hostObject = hostObject; }
 
     std::uint32_t getRefCount() const { return mRefCount; }
 
@@ -72,15 +78,32 @@ protected:
     void reportCreated() const;
     void reportDestroyed() const noexcept;
 
+    // A node's name, kept with the other rare fields.
+    u16string const& nameText() const;
+    void setNameText(u16string const& name) {
+        if (mRare || !name.empty()) rare().name = name;
+    }
+
 private:
     friend void intrusive_ptr_add_ref(PPTObjectImpl* p);
     friend void intrusive_ptr_release(PPTObjectImpl* p);
 
-    boost::shared_ptr<PPTObject> mProxy;
-    boost::shared_ptr<PPTClientImpl> mClient;
-    void* mHostObject = nullptr;
-    u16string mId;
-    u16string mTag;
+    // What most objects never have, made on first use: a deck holds tens of
+    // thousands of runs, paragraphs and cells, and each field here would
+    // cost every one of them.
+    struct Rare {
+        boost::shared_ptr<PPTObject> proxy;
+        boost::shared_ptr<PPTClientImpl> client;
+        void* hostObject = nullptr;
+        u16string id;
+        bool idSet = false;
+        u16string tag;
+        u16string name;
+    };
+    Rare& rare();
+
+    std::unique_ptr<Rare> mRare;
+    std::uint64_t mSerial;
     std::uint32_t mRefCount = 0;
 };
 

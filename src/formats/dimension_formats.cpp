@@ -94,7 +94,7 @@ void FontSizeImpl::check(Dimension const& dimension, u16string const& value) con
 }
 
 void FontSizeImpl::applyToText(TextWriter& writer) const {
-    writer.setRunAttribute(kSz, num2str(hundredthsOfPoint(Dimension(getValue()))).c_str());
+    writer.setRunAttribute(kSz, plainInteger(hundredthsOfPoint(Dimension(getValue()))).c_str());
 }
 
 FontSize::FontSize() : BaseDimension(new FontSizeImpl()) {}

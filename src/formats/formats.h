@@ -5,7 +5,9 @@
 // format classes.
 #pragma once
 
-#include <map>
+#include <algorithm>
+#include <utility>
+#include <vector>
 
 #include <boost/shared_ptr.hpp>
 
@@ -17,7 +19,9 @@ namespace ppt {
 
 class Formats {
 public:
-    using Map = std::map<FormatType, boost::shared_ptr<Format>>;
+    // A sorted vector rather than a map: most nodes have no format and the
+    // rest a few, and every element of a deck holds one of these.
+    using Map = std::vector<std::pair<FormatType, boost::shared_ptr<Format>>>;
 
     Formats() = default;
     Formats(Formats const& other) = default;
@@ -34,17 +38,32 @@ public:
     void appendFormat(boost::shared_ptr<Format> format) {
         if (!format) return;
         FormatType type = format->getFormatType();
-        mMap[type] = std::move(format);
+        auto it = lowerBound(type);
+        if (it != mMap.end() && it->first == type)
+            it->second = std::move(format);
+        else
+            mMap.emplace(it, type, std::move(format));
     }
     // Empty if the node has no format of that kind.
     boost::shared_ptr<Format> getFormat(FormatType type) const {
-        auto it = mMap.find(type);
-        return it == mMap.end() ? boost::shared_ptr<Format>() : it->second;
+        auto it = lowerBound(type);
+        return it == mMap.end() || it->first != type ? boost::shared_ptr<Format>() : it->second;
     }
-    void unsetFormat(FormatType type) { mMap.erase(type); }
+    void unsetFormat(FormatType type) {
+        auto it = lowerBound(type);
+        if (it != mMap.end() && it->first == type) mMap.erase(it);
+    }
     Map const& getMap() const { return mMap; }
 
 private:
+    static bool before(Map::value_type const& entry, FormatType type) { return entry.first < type; }
+    Map::const_iterator lowerBound(FormatType type) const {
+        return std::lower_bound(mMap.begin(), mMap.end(), type, before);
+    }
+    Map::iterator lowerBound(FormatType type) {
+        return std::lower_bound(mMap.begin(), mMap.end(), type, before);
+    }
+
     Map mMap;
 };
 

@@ -566,7 +566,7 @@ void PresentationModel::writePresentationPart(PartDocumentWriter& partWriter,
         if (!slide) continue;
         DOMElement* sldId = presentationDocument->createElement(u"p:sldId");
         list->appendChild(sldId);
-        sldId->setAttribute(u"id", num2str(++id).c_str());
+        sldId->setAttribute(u"id", plainInteger(++id).c_str());
         if (slide->relationshipId.empty()) {
             // Only new slides lack one; the template's keep theirs.
             if (!havePart) {

@@ -85,7 +85,7 @@ void writeCoreProperties(boost::shared_ptr<OPCPackage> const& package,
         // something else, and stays.
         partName = kCorePartName;
         for (unsigned int n = 2; parts.hasPart(partName); ++n)
-            partName = u"/docProps/core" + num2str(n) + u".xml";
+            partName = u"/docProps/core" + plainInteger(n) + u".xml";
         opc::model::Part part = parts.createPart(partName, kCorePropertiesContentType);
         auto out = part.getOutputStream();
         out->write(kEmptyCoreProperties, sizeof kEmptyCoreProperties - 1);

@@ -35,7 +35,7 @@ void ParagraphWriter::write() {
     if (!element) return;
     BaseAttribute<unsigned int> const& level = paragraph->getLevel();
     if (level.isSet() && level.getValue() != 0)
-        setParagraphAttribute(kLvl, num2str(std::min(level.getValue() - 1, kDeepestLevel)).c_str());
+        setParagraphAttribute(kLvl, plainInteger(std::min(level.getValue() - 1, kDeepestLevel)).c_str());
     if (paragraphProperties) element->appendChild(paragraphProperties);
 
     writeChildren(element);

@@ -36,7 +36,7 @@ char16_t const* const kWorkbookContentType =
     u"application/vnd.openxmlformats-officedocument.spreadsheetml.sheet";
 
 u16string slidePartName(std::uint64_t number) {
-    return u"/ppt/slides/slide" + num2str(static_cast<unsigned long>(number)) + u".xml";
+    return u"/ppt/slides/slide" + plainInteger(number) + u".xml";
 }
 }  // namespace
 
@@ -122,7 +122,7 @@ void PPTPartWriter::carryLayoutRelationships(opc::model::Part& part, TemplateSli
 u16string PPTPartWriter::newPartName(u16string const& prefix, u16string const& suffix) {
     std::uint64_t& number = partNumbers[prefix];
     u16string name;
-    do name = prefix + num2str(static_cast<unsigned long>(++number)) + suffix;
+    do name = prefix + plainInteger(++number) + suffix;
     while (hasPart(name));
     return name;
 }
@@ -180,7 +180,7 @@ u16string PPTPartWriter::newMediaName(u16string const& extension) {
     // writes the same package every time. The counter only grows: the
     // search never starts again from the first taken name.
     u16string name;
-    do name = u"/ppt/media/image" + num2str(static_cast<unsigned long>(++mediaNumber)) + u"." + extension;
+    do name = u"/ppt/media/image" + plainInteger(++mediaNumber) + u"." + extension;
     while (hasPart(name));
     return name;
 }

@@ -81,7 +81,7 @@ double const kEmuPerPixel = 9525.0;
 u16string emuText(double value) {
     if (std::isnan(value)) value = 0.0;
     value = std::clamp(value, -2147483648.0, 2147483647.0);
-    return num2str(static_cast<int>(value));
+    return plainInteger(static_cast<int>(value));
 }
 
 // The r prefix must be declared where r:embed is used; slide documents
@@ -121,7 +121,7 @@ DOMElement* pictureSkeleton(DOMDocument* document, u16string const& relationship
 // keeps the output the same from run to run.
 DOMElement* newShapeName(TemplateSlide& slide, ShapeImpl const& shape) {
     DOMElement* cNvPr = slide.document->createElement(xml::kCNvPr);
-    u16string const id = num2str(static_cast<unsigned int>(slide.nextShapeId++));
+    u16string const id = plainInteger(static_cast<unsigned int>(slide.nextShapeId++));
     cNvPr->setAttribute(xml::kId, id.c_str());
     auto const& name = shape.getNameAttribute();
     cNvPr->setAttribute(xml::kName, (name.isSet() ? name.getValue() : u"Picture " + id).c_str());
@@ -224,7 +224,7 @@ DOMElement* createTextBoxShape(TemplateSlide& slide, ShapeImpl const& shape) {
     DOMElement* sp = document->createElement(xml::kSp);
     DOMElement* nvSpPr = appendNew(sp, xml::kNvSpPr);
     DOMElement* cNvPr = appendNew(nvSpPr, xml::kCNvPr);
-    u16string const id = num2str(static_cast<unsigned int>(slide.nextShapeId++));
+    u16string const id = plainInteger(static_cast<unsigned int>(slide.nextShapeId++));
     cNvPr->setAttribute(xml::kId, id.c_str());
     auto const& name = shape.getNameAttribute();
     cNvPr->setAttribute(xml::kName, (name.isSet() ? name.getValue() : u"TextBox " + id).c_str());

@@ -36,7 +36,7 @@ void TableEntryWriter::write() {
     xercesc::DOMElement* tc = newCell(*this, textBody);
     if (!tc) return;
     std::int32_t const span = entry->getColSpan();
-    if (span >= 2) tc->setAttribute(kGridSpan, num2str(static_cast<int>(span)).c_str());
+    if (span >= 2) tc->setAttribute(kGridSpan, plainInteger(static_cast<int>(span)).c_str());
     writeChildren(textBody);
     addEmptyParagraph(tc);
     if (cellProperties) tc->appendChild(cellProperties);

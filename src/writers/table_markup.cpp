@@ -51,7 +51,7 @@ DOMElement* appendNew(DOMElement* parent, XMLCh const* name) {
 // clamped rather than wrapped.
 u16string emuText(double value) {
     if (std::isnan(value)) value = 0.0;
-    return num2str(static_cast<int>(std::clamp(value, -2147483648.0, 2147483647.0)));
+    return plainInteger(static_cast<int>(std::clamp(value, -2147483648.0, 2147483647.0)));
 }
 
 // The frame without position and without non-visual names:
@@ -81,7 +81,7 @@ void takeOverNonVisual(DOMElement* frame, DOMElement* oldNonVisual, TemplateSlid
     DOMElement* nvPr = ElementWriter::findChildElement(oldNonVisual, xml::kNvPr);
     if (!cNvPr) {
         cNvPr = slide.document->createElement(xml::kCNvPr);
-        u16string const id = num2str(static_cast<unsigned int>(slide.nextShapeId++));
+        u16string const id = plainInteger(static_cast<unsigned int>(slide.nextShapeId++));
         cNvPr->setAttribute(xml::kId, id.c_str());
         auto const& name = shape.getNameAttribute();
         cNvPr->setAttribute(xml::kName, (name.isSet() ? name.getValue() : u"Table " + id).c_str());

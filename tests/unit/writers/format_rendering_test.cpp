@@ -2,6 +2,7 @@
 // own format and by inheritance (run from paragraph and box, paragraph from
 // box), with the children of a:rPr and p:spPr in the order the schema wants.
 #include <cctype>
+#include <locale>
 #include <map>
 #include <regex>
 
@@ -81,7 +82,16 @@ protected:
     u16string file;
 };
 
+// Written under a host locale that groups digits, which markup must not show.
 TEST_F(FormatRendering, OwnAndInheritedFormatsWriteTheirAttributesInSchemaOrder) {
+    struct Thousands : std::numpunct<char> {
+        char do_thousands_sep() const override { return ','; }
+        std::string do_grouping() const override { return "\3"; }
+    };
+    struct GlobalLocale {
+        std::locale previous = std::locale::global(std::locale(std::locale::classic(), new Thousands));
+        ~GlobalLocale() { std::locale::global(previous); }
+    } grouping;
     Presentation presentation(file);
     Slide slide = presentation.add(u"Blank");
     TextBox box(u"Box");
@@ -146,6 +156,8 @@ TEST_F(FormatRendering, OwnAndInheritedFormatsWriteTheirAttributesInSchemaOrder)
     EXPECT_EQ("30000", run(5).attributes["baseline"]);
     EXPECT_EQ((Attributes{{"b", "1"}, {"sz", "2000"}}), run(6).attributes);
     EXPECT_EQ("", run(6).content);
+
+    EXPECT_FALSE(std::regex_search(xml, std::regex("[0-9],[0-9]{3}"))) << xml;
 
     // The paragraph's own alignment, the box's for the other.
     EXPECT_EQ((Attributes{{"algn", "thaiDist"}}), element(xml, "a:pPr", 0, at).attributes);
