@@ -14,6 +14,7 @@
 
 #include "nodes/chart.h"
 #include "platform/host_services.h"
+#include "platform/opc/text.h"
 
 namespace deckforge {
 namespace ppt {
@@ -27,30 +28,10 @@ char const* const kValAxis = "50010002";
 char const* const kCatAxis2 = "50010003";
 char const* const kValAxis2 = "50010004";
 
+// Escaped for both attribute values and element text.
 std::string escaped(u16string const& text) {
-    std::string const utf8 = toUtf8(text);
     std::string out;
-    out.reserve(utf8.size());
-    for (char ch : utf8) {
-        switch (ch) {
-            case '&':
-                out += "&amp;";
-                break;
-            case '<':
-                out += "&lt;";
-                break;
-            case '>':
-                out += "&gt;";
-                break;
-            case '"':
-                out += "&quot;";
-                break;
-            default:
-                // Control characters other than tab and newlines are no XML.
-                if (static_cast<unsigned char>(ch) < 0x20 && ch != '\t' && ch != '\n' && ch != '\r') break;
-                out += ch;
-        }
-    }
+    opc::detail::appendXmlAttribute(out, text);
     return out;
 }
 

@@ -81,7 +81,8 @@ void appendXmlAttribute(std::string& out, std::u16string const& value) {
                 out += "&#13;";
                 break;
             default:
-                out.push_back(c);
+                // Other control characters can't stand in XML at all.
+                if (static_cast<unsigned char>(c) >= 0x20) out.push_back(c);
         }
     }
 }
