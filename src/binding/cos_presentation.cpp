@@ -100,9 +100,10 @@ public:
             "p.close();\n"
             "delete(f);");
         cls.setHelp(
-            "A presentation built on a template and written to OutputPath by close. "
-            "  p = deckforge.ppt.Presentation('out.pptx');   % default template "
-            "  s = p.add('Title Slide'); p.close();");
+            "A presentation built on a template and written to OutputPath by close.\n"
+            "  p = deckforge.ppt.Presentation('out.pptx');   % default template\n"
+            "  s = p.add('Title Slide');\n"
+            "  p.close();");
         cls.addSuperclass("deckforge.ppt.Node");
         cls.addConstructor(
             {}, [](Call&) { return Presentation(); }, "Presentation()");
