@@ -76,6 +76,18 @@ function deck = demo (outDir, withPictures)
   regions.StyleName = 'Light Lines';
   s.find ('Content'){1}.replace (regions);
 
+  % A native chart: its numbers travel in a workbook inside the deck, so
+  % PowerPoint's "Edit Data" works. The margin, on a second axis, is drawn
+  % as a line over the revenue's columns.
+  s = p.add ('Title and Content');
+  s.replace ('Title', 'Charts from numbers');
+  c = deckforge.ppt.Chart ('column', [1200 0.12; 1340 0.18; 1310 0.07], {'2023', '2024', '2025'});
+  c.SeriesNames = {'Revenue', 'Margin'};
+  c.SecondaryAxis = [false, true];
+  c.Title = 'Revenue and margin';
+  c.Legend = 'bottom';
+  s.replace ('Content', c);
+
   p.close ();
   printf ('deck: %s\n', deck);
 
