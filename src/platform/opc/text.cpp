@@ -81,8 +81,7 @@ void appendXmlAttribute(std::string& out, std::u16string const& value) {
                 out += "&#13;";
                 break;
             default:
-                // Other control characters can't stand in XML at all.
-                if (static_cast<unsigned char>(c) >= 0x20) out.push_back(c);
+                out.push_back(c);
         }
     }
 }

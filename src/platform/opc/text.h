@@ -19,8 +19,7 @@ std::u16string asciiLower(std::u16string text);
 // lower-cased. Two names that OPC counts as equal have the same key.
 std::string partKey(std::u16string const& name);
 
-// Text escaped for an XML attribute value in double quotes (and so for
-// element text too); control characters that XML can't hold are dropped.
+// Text escaped for an XML attribute value in double quotes.
 void appendXmlAttribute(std::string& out, std::u16string const& value);
 
 }  // namespace detail

@@ -123,7 +123,9 @@ std::string xercesText(XMLCh const* message) {
 // are ordinary attributes: nothing needs fixing up.
 class MarkupWriter {
 public:
-    explicit MarkupWriter(OutputStream& stream) : stream_(stream) { out_.reserve(kChunk + 1024); }
+    MarkupWriter(OutputStream& stream, XMLCh const* omitted) : stream_(stream), omitted_(omitted) {
+        out_.reserve(kChunk + 1024);
+    }
 
     void write(DOMNode const* top) {
         // Depth first without recursion: the stack holds the elements open.
@@ -175,6 +177,7 @@ private:
                 if (DOMNamedNodeMap const* attributes = node->getAttributes()) {
                     for (XMLSize_t i = 0, n = attributes->getLength(); i < n; ++i) {
                         auto const* attr = static_cast<DOMAttr const*>(attributes->item(i));
+                        if (omitted_ && XMLString::equals(attr->getName(), omitted_)) continue;
                         out_ += ' ';
                         name(attr->getName());
                         out_ += "=\"";
@@ -306,6 +309,7 @@ private:
     }
 
     OutputStream& stream_;
+    XMLCh const* omitted_;
     std::string out_;
 };
 
@@ -388,9 +392,9 @@ DOMDocument* XercesHelper::readDocumentFromStream(DOMLSParser* parser, InputStre
     return document;
 }
 
-void XercesHelper::writeDocumentToStream(DOMNode const* node, OutputStream& stream) {
+void XercesHelper::writeDocumentToStream(DOMNode const* node, OutputStream& stream, XMLCh const* omitted) {
     if (!node) throw Exception("nothing to serialize");
-    MarkupWriter writer(stream);
+    MarkupWriter writer(stream, omitted);
     writer.write(node);
     writer.flush();
 }

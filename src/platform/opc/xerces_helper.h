@@ -49,9 +49,11 @@ public:
     // Writes a document (or node) to the stream as UTF-8, with no added
     // whitespace and names and namespace declarations as they stand in the
     // DOM. A document gets an XML declaration that marks it standalone, as
-    // PowerPoint writes its parts. Raises opc::Exception if the text holds a
+    // PowerPoint writes its parts. An attribute named `omitted` is left out
+    // wherever it stands. Raises opc::Exception if the text holds a
     // character XML can't. Does not close the stream.
-    static void writeDocumentToStream(xercesc::DOMNode const* document, OutputStream& stream);
+    static void writeDocumentToStream(xercesc::DOMNode const* document, OutputStream& stream,
+                                      XMLCh const* omitted = nullptr);
 };
 
 }  // namespace model
