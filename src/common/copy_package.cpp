@@ -236,15 +236,6 @@ private:
 
 }  // namespace
 
-bool FileUtils::isStrictPackage(u16string const& path) {
-    SourcePackage in(path);
-    bool strict = false;
-    for (auto const& relationship : in.package->getRelationships())
-        if (relationship.getType() == kStrictRelationships + u"officeDocument") strict = true;
-    in.package->close(false);
-    return strict;
-}
-
 u16string FileUtils::convertStrictPackage(u16string const& source, u16string const& target) {
     SourcePackage in(source);
     u16string unmapped;

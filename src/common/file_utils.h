@@ -87,9 +87,6 @@ public:
     // Copies a package, giving its main part `contentType`: a byte copy when
     // it has that type already, otherwise part by part.
     static void copyPackage(u16string const& source, u16string const& target, u16string const& contentType);
-    // Whether the package is saved as Strict Open XML: its main part is reached
-    // by the Strict officeDocument relationship.
-    static bool isStrictPackage(u16string const& path);
     // Writes a Strict package as Transitional: the same parts, reached by the
     // same relationships, with Strict namespaces and relationship types read as
     // their transitional equivalents. Gives an empty text on success, or what

@@ -25,6 +25,8 @@ namespace {
 
 u16string const kOfficeDocumentRelationship =
     u"http://schemas.openxmlformats.org/officeDocument/2006/relationships/officeDocument";
+u16string const kStrictOfficeDocumentRelationship =
+    u"http://purl.oclc.org/ooxml/officeDocument/relationships/officeDocument";
 
 struct FileKind {
     u16string extension;
@@ -57,12 +59,19 @@ MessageFilter dispatcherFilter() {
 }
 
 // The main part's content type of the template, or empty text if the package
-// names no main part. A file that is no package fails in the reader's
-// constructor (cannotOpenFile of ppt_error); the lookups are guarded apart.
-u16string readMainContentType(u16string const& templatePath) {
+// names no main part; `strict` tells whether the package reaches its main
+// part as Strict Open XML does. A file that is no package fails in the
+// reader's constructor (cannotOpenFile of ppt_error); the lookups are guarded
+// apart.
+u16string readMainContentType(u16string const& templatePath, bool& strict) {
     OPCPartReader reader(templatePath);
     try {
-        u16string const mainPart = reader.getRelatedPartName(kOfficeDocumentRelationship);
+        u16string mainPart = reader.getRelatedPartName(kOfficeDocumentRelationship);
+        strict = false;
+        if (mainPart.empty()) {
+            mainPart = reader.getRelatedPartName(kStrictOfficeDocumentRelationship);
+            strict = !mainPart.empty();
+        }
         if (mainPart.empty() || !reader.hasPart(mainPart)) return u16string();
         return reader.getPart(mainPart).getContentType().toString();
     } catch (opc::Exception const& e) {
@@ -229,13 +238,15 @@ bool PresentationImpl::open() {
     FileUtils::validateFileName(outputName);
 
     u16string const templatePath = withDefaultExtension(mReport->templatePath, u"pptx");
-    // A Strict Open XML template is read through a transitional copy of it,
-    // so that the deck written from it is transitional throughout.
-    u16string const readPath = transitionalTemplate(templatePath);
     // The content decides, not the name: a template called ".pptx" whose main
     // part is a document is refused, and any name with a presentation inside
     // is accepted.
-    u16string const templateType = readMainContentType(readPath);
+    removeStrictCopy();
+    bool strict = false;
+    u16string const templateType = readMainContentType(templatePath, strict);
+    // A Strict Open XML template is read through a transitional copy of it,
+    // so that the deck written from it is transitional throughout.
+    u16string const readPath = strict ? transitionalCopy(templatePath) : templatePath;
     u16string const& templateExtension = getExtensionOfContentType(templateType);
     if (templateExtension.empty()) raise<ppt_error::invalidFileExtension>(templatePath);
 
@@ -266,15 +277,7 @@ bool PresentationImpl::open() {
     return true;
 }
 
-u16string PresentationImpl::transitionalTemplate(u16string const& templatePath) {
-    removeStrictCopy();
-    bool strict = false;
-    try {
-        strict = FileUtils::isStrictPackage(templatePath);
-    } catch (...) {
-        // Not a package that opens: the content type check says so.
-    }
-    if (!strict) return templatePath;
+u16string PresentationImpl::transitionalCopy(u16string const& templatePath) {
     mStrictCopyPath = FileUtils::getTempName() + u"." + FileUtils::getFileNameExtension(templatePath);
     u16string unmapped;
     try {

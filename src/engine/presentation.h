@@ -161,9 +161,9 @@ private:
     // Reads the template into a model through a temporary copy.
     void loadTemplate(u16string const& templatePath);
     void removeTempPackage();
-    // The path to read the template from: itself, or for a Strict Open XML
-    // template a transitional copy of it, removed once the template is read.
-    u16string transitionalTemplate(u16string const& templatePath);
+    // A transitional copy of a Strict Open XML template to read it from,
+    // removed once the template is read.
+    u16string transitionalCopy(u16string const& templatePath);
     void removeStrictCopy();
     // Whether script code can be told: a handle can only be made once one exists.
     bool canReport() const { return getRefCount() != 0; }
