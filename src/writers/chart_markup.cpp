@@ -14,7 +14,7 @@
 
 #include "nodes/chart.h"
 #include "platform/host_services.h"
-#include "platform/opc/text.h"
+#include "writers/xml_text.h"
 
 namespace deckforge {
 namespace ppt {
@@ -28,10 +28,9 @@ char const* const kValAxis = "50010002";
 char const* const kCatAxis2 = "50010003";
 char const* const kValAxis2 = "50010004";
 
-// Escaped for both attribute values and element text.
 std::string escaped(u16string const& text) {
     std::string out;
-    opc::detail::appendXmlAttribute(out, text);
+    appendEscaped(out, text);
     return out;
 }
 

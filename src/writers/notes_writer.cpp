@@ -35,17 +35,6 @@ char const kGroupProperties[] =
     "<p:grpSpPr><a:xfrm><a:off x=\"0\" y=\"0\"/><a:ext cx=\"0\" cy=\"0\"/>"
     "<a:chOff x=\"0\" y=\"0\"/><a:chExt cx=\"0\" cy=\"0\"/></a:xfrm></p:grpSpPr>";
 
-void appendEscaped(std::string& xml, u16string const& text) {
-    for (char c : toUtf8(xmlSafeText(text))) {
-        switch (c) {
-            case '&': xml += "&amp;"; break;
-            case '<': xml += "&lt;"; break;
-            case '>': xml += "&gt;"; break;
-            default: xml += c;
-        }
-    }
-}
-
 // A placeholder shape; `geometry` is the spPr content, `body` the txBody or nothing.
 std::string placeholder(int id, char const* name, char const* ph, char const* locks, std::string const& geometry,
                         std::string const& body) {

@@ -110,6 +110,18 @@ u16string xmlSafeText(u16string const& text) {
     return out;
 }
 
+void appendEscaped(std::string& out, u16string const& text) {
+    for (char c : toUtf8(xmlSafeText(text))) {
+        switch (c) {
+            case '&': out += "&amp;"; break;
+            case '<': out += "&lt;"; break;
+            case '>': out += "&gt;"; break;
+            case '"': out += "&quot;"; break;
+            default: out += c;
+        }
+    }
+}
+
 std::vector<u16string> runLines(u16string const& text) {
     std::vector<u16string> lines(1);
     for (std::size_t i = 0; i < text.size(); ++i) {

@@ -3,6 +3,7 @@
 // PowerPoint behind it, accepts. Every function is linear in its input.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "common/strings.h"
@@ -18,6 +19,10 @@ namespace ppt {
 // becomes U+FFFD, so that the loss shows. Well-formed surrogate pairs
 // (emoji, rarer CJK) pass untouched and are written as one UTF-8 character.
 u16string xmlSafeText(u16string const& text);
+
+// Appends the text, made XML-safe, to markup written by hand: escaped for
+// element text and for attribute values in double quotes.
+void appendEscaped(std::string& out, u16string const& text);
 
 // The lines of a run, each made XML-safe. A line ends at a line feed, a
 // carriage return, a CR LF pair, or a vertical tab, which is what the
